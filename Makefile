@@ -1,0 +1,30 @@
+# Thin names over the CMake presets and the scripts in tools/.
+.POSIX:
+.PHONY: help setup demo test dist bench format lint clean
+
+help: ## this list
+	@sed -n 's/^\([a-z]*\):.*## /  make \1\t/p' Makefile | expand -t 16
+
+setup: ## install the Debian packages that are missing
+	@tools/setup.sh
+
+demo: dist ## filter a real recording with the Windows tool and write out/demo/
+	@tools/demo.sh
+
+test: setup ## every check and test, on Windows (through Wine) and Linux
+	@tools/test.sh
+
+dist: setup ## release versions for Windows and Linux in dist/
+	@tools/dist.sh
+
+bench: setup ## the benchmarks, beside their peers
+	@tools/bench.sh
+
+format: ## format the C++ sources
+	@git ls-files '*.cpp' '*.h' ':!include' | xargs clang-format-19 -i
+
+lint: setup ## clang-tidy over the library, the backend and the tool
+	@tools/lint.sh
+
+clean: ## remove everything that was built
+	@rm -rf build dist out

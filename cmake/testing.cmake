@@ -1,0 +1,16 @@
+# GoogleTest from the system's sources, built for the target at hand, and how a test program is added.
+include(GoogleTest)
+set(INSTALL_GTEST OFF CACHE BOOL "")
+set(gtest_force_shared_crt OFF CACHE BOOL "")
+add_subdirectory(/usr/src/googletest ${PROJECT_BINARY_DIR}/googletest EXCLUDE_FROM_ALL SYSTEM)
+
+# quordsp_add_test(name SOURCES file... [LIBRARIES target...] [PROPERTIES ctest properties...])
+# One program; every TEST in it is a test of its own and runs in a process of its own.
+function(quordsp_add_test name)
+    cmake_parse_arguments(PARSE_ARGV 1 test "" "" "SOURCES;LIBRARIES;PROPERTIES")
+    add_executable(${name} ${test_SOURCES})
+    target_link_libraries(${name} PRIVATE quordsp_warnings ${test_LIBRARIES} GTest::gmock_main)
+    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+    gtest_discover_tests(${name} TEST_PREFIX ${name}. NO_PRETTY_VALUES DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 120
+        PROPERTIES TIMEOUT 120 ${test_PROPERTIES})
+endfunction()

@@ -1,0 +1,19 @@
+#!/bin/sh
+# Runs a Windows program: in a Wine prefix of this checkout's own, made on first use, without a display and without Wine's chatter.
+set -eu
+root=$(cd "$(dirname "$0")/.." && pwd)
+export WINEPREFIX="${WINEPREFIX:-$root/build/wine}" WINEDEBUG=-all WINEDLLOVERRIDES="${WINEDLLOVERRIDES:-mscoree,mshtml=}"
+unset DISPLAY
+wine=/usr/lib/wine/wine64
+mkdir -p "$WINEPREFIX"
+if [ ! -e "$WINEPREFIX/.ready" ]; then
+    # Tests start in parallel: only one makes the prefix.
+    (
+        flock 9
+        if [ ! -e "$WINEPREFIX/.ready" ]; then
+            "$wine" wineboot --init >"$WINEPREFIX/wineboot.log" 2>&1 </dev/null
+            touch "$WINEPREFIX/.ready"
+        fi
+    ) 9>"$WINEPREFIX/.lock"
+fi
+exec "$wine" "$@"
