@@ -1,0 +1,15 @@
+#include "frame/entry.h"
+
+#include "frame/locator.h"
+
+namespace quordsp {
+
+Binding bindEntry(const char* name) noexcept
+{
+    const os::Module backend = locator.backend();
+    if (!backend)
+        return {nullptr, QUORDSP_BACKEND_NOT_FOUND};
+    return {os::symbol(backend, name), QUORDSP_ENTRY_NOT_FOUND};
+}
+
+} // namespace quordsp

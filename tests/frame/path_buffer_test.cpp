@@ -1,0 +1,34 @@
+#include "frame/path_buffer.h"
+
+#include <gtest/gtest.h>
+
+namespace quordsp {
+namespace {
+
+TEST(PathBuffer, HoldsUpTo1023CharactersAndItsNul)
+{
+    PathBuffer path;
+    EXPECT_TRUE(path.append(std::string(1023, 'a')));
+    EXPECT_EQ(path.view().size(), 1023u);
+    EXPECT_EQ(path.text()[1023], '\0');
+}
+
+TEST(PathBuffer, RefusesWhatDoesNotFitAndStaysAsItWas)
+{
+    PathBuffer path;
+    ASSERT_TRUE(path.append("ab"));
+    EXPECT_FALSE(path.append(std::string(1022, 'c')));
+    EXPECT_STREQ(path.text(), "ab");
+}
+
+TEST(PathBuffer, CutsOnlyWhatIsThere)
+{
+    PathBuffer path;
+    ASSERT_TRUE(path.append("abc"));
+    EXPECT_FALSE(path.cut(4));
+    EXPECT_TRUE(path.cut(2));
+    EXPECT_EQ(path.view(), "a");
+}
+
+} // namespace
+} // namespace quordsp
