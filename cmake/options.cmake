@@ -19,9 +19,10 @@ add_compile_options(-ffp-contract=off -ffile-prefix-map=${PROJECT_SOURCE_DIR}=.)
 if(WIN32)
     set(CMAKE_SHARED_LIBRARY_PREFIX "")
     set(CMAKE_SHARED_MODULE_PREFIX "")
-    # The debug information goes into a .pdb beside the module; the module names it without a folder.
-    add_compile_options($<$<CONFIG:RelWithDebInfo>:-gcodeview>)
-    add_link_options(LINKER:--no-insert-timestamp LINKER:--pdb= LINKER:-Xlink=-pdbaltpath:%_PDB%)
+    # The debug information goes into a .pdb beside the module; neither knows the folder in which it was built.
+    add_compile_options($<$<CONFIG:RelWithDebInfo>:-gcodeview> -gno-codeview-command-line -fdebug-compilation-dir=.)
+    add_link_options(LINKER:--no-insert-timestamp LINKER:--pdb= LINKER:-Xlink=-pdbaltpath:%_PDB%
+        LINKER:-Xlink=-pdbsourcepath:/QuorDSP_DAQ)
 endif()
 if(QUORDSP_SANITIZE)
     add_compile_options(-fsanitize=${QUORDSP_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)

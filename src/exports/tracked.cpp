@@ -8,7 +8,7 @@ using namespace quordsp;
 QuorDSP_FFTTable* QuorDSP_CreateFFTTable(int n) noexcept
 {
     static constinit ResourceAcquire acquire;
-    if (!entry::CreateFFTTable.bind())
+    if (entry::CreateFFTTable.bind() != QUORDSP_SUCCESS)
         return nullptr;
     acquire.find();
     QuorDSP_FFTTable* const table = entry::CreateFFTTable(widen(n));
@@ -20,7 +20,7 @@ QuorDSP_FFTTable* QuorDSP_CreateFFTTable(int n) noexcept
 void QuorDSP_DestroyFFTTable(QuorDSP_FFTTable* table) noexcept
 {
     static constinit ResourceRelease release;
-    if (!entry::DestroyFFTTable.bind())
+    if (entry::DestroyFFTTable.bind() != QUORDSP_SUCCESS)
         return;
     release.find();
     release(table);
@@ -30,7 +30,7 @@ void QuorDSP_DestroyFFTTable(QuorDSP_FFTTable* table) noexcept
 QuorDSP_FIRFilter* QuorDSP_AllocFIRFilterPtr() noexcept
 {
     static constinit ResourceAcquire acquire;
-    if (!entry::AllocFIRFilterPtr.bind())
+    if (entry::AllocFIRFilterPtr.bind() != QUORDSP_SUCCESS)
         return nullptr;
     acquire.find();
     QuorDSP_FIRFilter* const filter = entry::AllocFIRFilterPtr();
@@ -42,7 +42,7 @@ QuorDSP_FIRFilter* QuorDSP_AllocFIRFilterPtr() noexcept
 void QuorDSP_FreeFIRFilterPtr(QuorDSP_FIRFilter* filter) noexcept
 {
     static constinit ResourceRelease release;
-    if (!entry::FreeFIRFilterPtr.bind())
+    if (entry::FreeFIRFilterPtr.bind() != QUORDSP_SUCCESS)
         return;
     release.find();
     release(filter);
@@ -54,10 +54,12 @@ AnalysisLibErrType QuorDSP_PeakDetector(const double* in, int n, double threshol
                                         double** amplitudes, double** secondDerivatives) noexcept
 {
     static constinit ResourceAcquire acquire;
+    if (const Status failure = entry::PeakDetector.bind(); failure != QUORDSP_SUCCESS)
+        return failure;
     acquire.find();
     const Status status = entry::PeakDetector(in, widen(n), threshold, widen(width), polarity, initialize, endOfData,
                                               count, locations, amplitudes, secondDerivatives);
-    if (status < 0)
+    if (status < 0 || !acquire.known())
         return status;
     // The plural suffix stands for every size, 0 and 8 bytes included.
     for (double** const array : {locations, amplitudes, secondDerivatives})

@@ -17,16 +17,16 @@ concept PassedUnchanged = std::same_as<From, To> || (std::is_pointer_v<From> && 
 // What looking up an entry gave: its address, or why there is none.
 struct Binding {
     os::Symbol address;
-    Status failure;
+    Status status;
 };
 Binding bindEntry(const char* name) noexcept;
 
 // What a caller gets from an entry that cannot be called: the status, a null handle, or nothing.
 template <class Result>
-constexpr Result unbound([[maybe_unused]] Status failure) noexcept
+constexpr Result unbound([[maybe_unused]] Status status) noexcept
 {
     if constexpr (std::same_as<Result, Status>)
-        return failure;
+        return status;
     else
         return Result();
 }
@@ -55,8 +55,8 @@ public:
         return (bound ? bound : bindAndCall)(args...);
     }
 
-    // Looks the entry up unless that is done; false when it cannot be called now.
-    bool bind() const noexcept { return bound_.load(std::memory_order_relaxed) || lookUp().address; }
+    // Looks the entry up unless that is done. Success when it can be called now.
+    Status bind() const noexcept { return bound_.load(std::memory_order_relaxed) ? QUORDSP_SUCCESS : lookUp().status; }
 
 private:
     using Function = Result(Params...) noexcept;
@@ -73,7 +73,7 @@ private:
     {
         const Binding binding = lookUp();
         if (!binding.address)
-            return unbound<Result>(binding.failure);
+            return unbound<Result>(binding.status);
         return reinterpret_cast<Function*>(binding.address)(args...);
     }
 

@@ -28,13 +28,13 @@ class TrackerEntry {
 public:
     consteval explicit TrackerEntry(const char* name) : name_{name} {}
 
+    // Looks the entry up unless it is known.
     void find() noexcept
     {
         if (!known())
             found_.store(findTrackerEntry(name_), std::memory_order_relaxed);
     }
 
-protected:
     os::Symbol known() const noexcept { return found_.load(std::memory_order_relaxed); }
 
 private:

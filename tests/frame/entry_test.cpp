@@ -84,7 +84,7 @@ TEST(Entry, GivesANullHandleOrNothingWhenItCannotBeCalled)
     constexpr Entry<QuorDSP_FFTTable*(Size), "AALFunc4"> create;
     constexpr Entry<void(QuorDSP_FFTTable*), "AALFunc5"> destroy;
     EXPECT_EQ(create(Size{8}), nullptr);
-    EXPECT_FALSE(create.bind());
+    EXPECT_EQ(create.bind(), QUORDSP_BACKEND_NOT_FOUND);
     destroy(static_cast<QuorDSP_FFTTable*>(nullptr));
 }
 
@@ -93,7 +93,7 @@ TEST(Entry, BindsWithoutACall)
     fake::FakeSystem system;
     exportScale(system, "AALFunc6");
     receivedCount = 0;
-    EXPECT_TRUE((Entry<Scale, "AALFunc6">{}.bind()));
+    EXPECT_EQ((Entry<Scale, "AALFunc6">{}.bind()), QUORDSP_SUCCESS);
     EXPECT_EQ(receivedCount, 0);
     system.calls.clear();
     EXPECT_EQ(callScale<"AALFunc6">(), 7);
