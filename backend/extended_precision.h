@@ -1,0 +1,30 @@
+// long double has 64 bits of mantissa on x86 only as long as the thread's control word says so. Windows starts threads
+// with 53; while an ExtendedPrecision lives, this one has 64. What is computed must stand in a function of its own that
+// the compiler does not mix with this one.
+#pragma once
+
+#include <cstdint>
+
+namespace quordsp::backend {
+
+class ExtendedPrecision {
+public:
+    ExtendedPrecision(const ExtendedPrecision&) = delete;
+    ExtendedPrecision& operator=(const ExtendedPrecision&) = delete;
+#if defined(__x86_64__)
+    ExtendedPrecision()
+    {
+        asm volatile("fnstcw %0" : "=m"(callersWord_));
+        const auto extended = static_cast<std::uint16_t>(callersWord_ | 0x0300);
+        asm volatile("fldcw %0" : : "m"(extended) : "memory");
+    }
+    ~ExtendedPrecision() { asm volatile("fldcw %0" : : "m"(callersWord_) : "memory"); }
+
+private:
+    std::uint16_t callersWord_;
+#else
+    ExtendedPrecision() = default;
+#endif
+};
+
+} // namespace quordsp::backend

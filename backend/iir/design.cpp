@@ -1,0 +1,54 @@
+#include "iir/design.h"
+
+#include "status.h"
+
+#include <algorithm>
+
+namespace quordsp::backend {
+namespace {
+
+// An unknown response is taken for one with a single cut-off here: it is reported after all the rest.
+void checkFrequencies(Response response, const Frequencies& frequencies)
+{
+    const auto [fs, fl, fh] = frequencies;
+    const Real nyquist = Real{fs} / 2;
+    if (isBand(response))
+        require(fl > 0 && fh > fl && fh < nyquist, Status::Band);
+    else
+        require(fl > 0 && fl < nyquist, Status::Cutoff);
+}
+
+void checkTolerances(const Family& family, const Tolerances& tolerances)
+{
+    const auto [ripple, attenuation] = tolerances;
+    require(!family.hasRipple || ripple > 0, Status::RippleNotPositive);
+    require(!family.hasAttenuation || attenuation > 0, Status::AttenuationNotPositive);
+    require(!family.hasRipple || !family.hasAttenuation || attenuation > ripple, Status::AttenuationBelowRipple);
+}
+
+} // namespace
+
+void check(const Design& design)
+{
+    require(design.order > 0, Status::OrderNotPositive);
+    checkFrequencies(design.response, design.frequencies);
+    checkTolerances(design.family, design.tolerances);
+    require(isKnown(design.response), Status::InvalidSelection);
+}
+
+std::vector<Biquad> biquadsOf(const Design& design)
+{
+    require(design.order <= kLargestOrder, Status::OutOfMemory);
+    const Prototype prototype = design.family.prototype(design.order, design.tolerances);
+    const std::vector<AnalogSection> sections = transform(prototype, design.response, design.frequencies);
+    std::vector<Biquad> biquads(sections.size());
+    std::transform(sections.begin(), sections.end(), biquads.begin(), bilinear);
+    return biquads;
+}
+
+std::int64_t directCount(Response response, std::int32_t order)
+{
+    return std::int64_t{order} * (isBand(response) ? 2 : 1) + 1;
+}
+
+} // namespace quordsp::backend

@@ -1,0 +1,152 @@
+#include "iir/entries.h"
+
+#include "flush_subnormals.h"
+#include "iir/cascade_kernel.h"
+#include "iir/direct_kernel.h"
+#include "iir/filter_record.h"
+#include "status.h"
+
+#include <ranges>
+
+namespace quordsp::backend {
+namespace {
+
+std::size_t size(std::int32_t count)
+{
+    return static_cast<std::size_t>(std::max(count, 0));
+}
+
+void requireLengths(std::int32_t na, std::int32_t nb, Response response, std::int32_t order)
+{
+    const std::int64_t wanted = directCount(response, order);
+    require(na == wanted && nb == wanted, Status::ArraySize);
+}
+
+void storeDirect(const Polynomial& denominator, const Polynomial& numerator, double* a, double* b, std::int64_t count)
+{
+    requireFinite(denominator);
+    requireFinite(numerator);
+    roundTo({a, static_cast<std::size_t>(count)}, denominator);
+    roundTo({b, static_cast<std::size_t>(count)}, numerator);
+}
+
+// Section k of a filter as polynomials.
+Polynomial denominatorOf(const IirFilter& filter, std::size_t k)
+{
+    const std::size_t order = sectionOrder(Response{filter.type});
+    Polynomial polynomial{1};
+    polynomial.insert(polynomial.end(), filter.reverse + k * order, filter.reverse + (k + 1) * order);
+    return polynomial;
+}
+
+Polynomial numeratorOf(const IirFilter& filter, std::size_t k)
+{
+    const std::size_t count = sectionOrder(Response{filter.type}) + 1;
+    return {filter.forward + k * count, filter.forward + (k + 1) * count};
+}
+
+} // namespace
+
+// Sections of second order for the band filters too: at low cut-offs those of fourth order lose digits.
+template <class Sample>
+Status designAndFilter(const Sample* x, std::int64_t n, const Design& design, Sample* y) noexcept
+{
+    return guarded([&] {
+        requirePositiveCount(n);
+        requireArrays(x, y);
+        check(design);
+        const Coefficients filter = roundedSections(biquadsOf(design), 2);
+        std::vector<Sample> state(filter.reverse.size());
+        const FlushSubnormals flush;
+        filterCascade<2>(x, n, state.size() / 2, filter.reverse.data(), filter.forward.data(), state.data(), y);
+    });
+}
+
+template Status designAndFilter(const double*, std::int64_t, const Design&, double*) noexcept;
+
+Status designDirect(const Design& design, double* a, std::int32_t na, double* b, std::int32_t nb) noexcept
+{
+    return guarded([&] {
+        requireArrays(a, b);
+        check(design);
+        requireLengths(na, nb, design.response, design.order);
+        Polynomial denominator{1}, numerator{1};
+        // Sharp sections first: where an order is too high for this form, they show it soonest.
+        for (const Biquad& biquad : biquadsOf(design) | std::views::reverse) {
+            multiplyBy(denominator, biquad.a);
+            multiplyBy(numerator, biquad.b);
+            requireFinite(denominator);
+        }
+        storeDirect(denominator, numerator, a, b, na);
+    });
+}
+
+Status cascadeToDirect(const IirFilter* filter, double* a, std::int32_t na, double* b, std::int32_t nb) noexcept
+{
+    return guarded([&] {
+        requireArrays(a, b);
+        requireConsistent(filter);
+        requireLengths(na, nb, Response{filter->type}, filter->order);
+        Polynomial denominator{1}, numerator{1};
+        for (std::size_t k = 0; k < sectionCount(filter->order); ++k) {
+            multiplyBy(denominator, denominatorOf(*filter, k));
+            multiplyBy(numerator, numeratorOf(*filter, k));
+            requireFinite(denominator);
+        }
+        storeDirect(denominator, numerator, a, b, na);
+    });
+}
+
+Status designCascade(const Family& family, const Frequencies& frequencies, const Tolerances& tolerances,
+                     IirFilter* filter) noexcept
+{
+    return guarded([&] {
+        requireConsistent(filter);
+        const Design design{family, Response{filter->type}, filter->order, frequencies, tolerances};
+        check(design);
+        const Coefficients cascade = roundedSections(biquadsOf(design), sectionOrder(design.response));
+        std::copy(cascade.reverse.begin(), cascade.reverse.end(), filter->reverse);
+        std::copy(cascade.forward.begin(), cascade.forward.end(), filter->forward);
+        filter->reset = 1;
+    });
+}
+
+Status filterThroughCascade(const double* x, std::int64_t n, IirFilter* filter, double* y) noexcept
+{
+    return guarded([&] {
+        requirePositiveCount(n);
+        requireArrays(x, y);
+        requireConsistent(filter);
+        if (filter->reset)
+            std::fill_n(filter->state, filter->stateCount, 0.0);
+        filter->reset = 0;
+        const FlushSubnormals flush;
+        const auto run = isBand(Response{filter->type}) ? filterCascade<4, double> : filterCascade<2, double>;
+        run(x, n, sectionCount(filter->order), filter->reverse, filter->forward, filter->state, y);
+    });
+}
+
+template <class Sample>
+Status filterThroughDirect(const Sample* x, std::int64_t n, const double* a, Sample* ya, std::int32_t na,
+                           const double* b, Sample* xb, std::int32_t nb, Sample* y) noexcept
+{
+    return guarded([&] {
+        requirePositiveCount(n);
+        requireArrays(x, y);
+        require((na <= 0 || a) && (nb <= 0 || b), Status::ArraySize);
+        require(na <= 0 || a[0] != 0, Status::DivisionByZero);
+        if (na <= 0 && nb <= 0) {
+            std::copy_n(x, n, y);
+            return;
+        }
+        const double one = 1;
+        const std::span<const double> reverse = na > 0 ? std::span{a, size(na)} : std::span{&one, 1};
+        const FlushSubnormals flush;
+        filterDirect(x, n, reverse, ya, {b, size(nb)}, xb, y);
+    });
+}
+
+template Status filterThroughDirect(const double*, std::int64_t, const double*, double*, std::int32_t, const double*,
+                                    double*, std::int32_t, double*) noexcept;
+
+} // namespace quordsp::backend

@@ -1,0 +1,46 @@
+// How an entry checks its arguments and turns whatever goes wrong inside it into a status.
+#pragma once
+
+#include "extended_precision.h"
+#include "nianlys.h"
+
+namespace quordsp::backend {
+
+// Ends an entry from any depth; never leaves guarded().
+struct Failure {
+    Status status;
+};
+
+inline void require(bool holds, Status otherwise)
+{
+    if (!holds)
+        throw Failure{otherwise};
+}
+
+inline void requirePositiveCount(std::int64_t n)
+{
+    require(n > 0, Status::CountNotPositive);
+}
+
+template <class... T>
+void requireArrays(const T*... arrays)
+{
+    require((arrays && ...), Status::ArraySize);
+}
+
+// Runs the body of an entry. What is thrown besides a Failure is a container's word for "no memory".
+template <class Body>
+Status guarded(Body body) noexcept
+{
+    const ExtendedPrecision precision;
+    try {
+        body();
+        return Status::Success;
+    } catch (const Failure& failure) {
+        return failure.status;
+    } catch (...) {
+        return Status::OutOfMemory;
+    }
+}
+
+} // namespace quordsp::backend

@@ -1,0 +1,33 @@
+// Transform of a real signal. Of an even size it is a complex transform of half the size, over the pairs of neighbours,
+// and one step more; of an odd size it is a complex transform without imaginary parts.
+#pragma once
+
+#include "buffer.h"
+#include "transform/complex_plan.h"
+
+namespace quordsp::backend {
+
+// Immutable, like ComplexPlan. Spectra are held as their bins 0..n/2; the others are the conjugates of these.
+class RealPlan {
+public:
+    // n >= 1. Throws std::bad_alloc.
+    explicit RealPlan(std::size_t n);
+
+    std::size_t bins() const { return n_ / 2 + 1; }
+    std::size_t workSize() const { return 2 * points_ + complex_->workSize(); } // doubles
+
+    // Unscaled. x may be spectrum.re. Imaginary parts that are 0 for any real signal come out as 0.
+    void forward(const double* x, Split spectrum, double* work) const;
+
+    // Unscaled: n times the signal. x may be spectrum.re. Ignores the imaginary parts that no real signal has.
+    void inverse(ConstSplit spectrum, double* x, double* work) const;
+
+private:
+    std::size_t n_;
+    std::size_t points_; // of the complex transform
+    std::unique_ptr<const ComplexPlan> complex_;
+    Buffer<> twiddles_;
+    Split twiddles() const { return {twiddles_.get(), twiddles_.get() + n_ / 4 + 1}; }
+};
+
+} // namespace quordsp::backend
