@@ -1,0 +1,7 @@
+// A client in C++. Any argument says that there is no backend.
+#include "client_checks.h"
+
+int main(int argc, char**)
+{
+    return checkLibrary(argc == 1);
+}

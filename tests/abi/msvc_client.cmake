@@ -1,0 +1,20 @@
+# Compiled with the ABI of Microsoft's compiler and linked, by the linker that stands in for Microsoft's, against QuorDSP_DAQ.lib.
+find_program(LLD_LINK lld-link-19 REQUIRED)
+set(msvc_compile --target=x86_64-pc-windows-msvc -ffreestanding -Wall -Wextra -Wpedantic -Werror
+    -I${PROJECT_SOURCE_DIR}/include)
+set(headers ${PROJECT_SOURCE_DIR}/include/QuorDSP_DAQ.h ${CMAKE_CURRENT_SOURCE_DIR}/client_checks.h)
+set(source ${CMAKE_CURRENT_SOURCE_DIR})
+set(client ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/client_msvc.exe)
+
+file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/kernel32.def "LIBRARY kernel32.dll\nEXPORTS\nExitProcess\n")
+add_custom_command(OUTPUT ${client} DEPENDS client_msvc.cpp header_c11.c header_cpp17.cpp ${headers} QuorDSP_DAQ
+    COMMAND ${CMAKE_C_COMPILER} ${msvc_compile} -std=c11 -fsyntax-only ${source}/header_c11.c
+    COMMAND ${CMAKE_CXX_COMPILER} ${msvc_compile} -std=c++17 -fsyntax-only ${source}/header_cpp17.cpp
+    COMMAND ${CMAKE_CXX_COMPILER} ${msvc_compile} -std=c++17 -O1 -c ${source}/client_msvc.cpp -o client_msvc.obj
+    COMMAND ${LLVM_DLLTOOL} -m i386:x86-64 -d kernel32.def -l kernel32.lib
+    COMMAND ${LLD_LINK} /nologo /nodefaultlib /subsystem:console /entry:start /out:${client}
+        client_msvc.obj ${QUORDSP_MSVC_LIBRARY} kernel32.lib
+    COMMENT "Linking client_msvc.exe as Microsoft's linker does")
+add_custom_target(client_msvc ALL DEPENDS ${client})
+add_test(NAME abi.client_msvc COMMAND ${CMAKE_CROSSCOMPILING_EMULATOR} ${client})
+set_tests_properties(abi.client_msvc PROPERTIES ENVIRONMENT "${with_backend}")
