@@ -40,6 +40,22 @@ void directIndirectCall(benchmark::State& state)
 }
 BENCHMARK(directIndirectCall);
 
+// The least that any forwarding takes: one more jump.
+Direct* jumpTarget = nullptr;
+
+[[gnu::naked]] quordsp::backend::Status bareJump(const double*, std::int64_t, double, double, std::int32_t,
+                                                 double*) noexcept
+{
+    asm("jmpq *%0" : : "m"(jumpTarget));
+}
+
+void oneMoreJump(benchmark::State& state)
+{
+    jumpTarget = entryOfIdleBackend();
+    callOften(state, bareJump);
+}
+BENCHMARK(oneMoreJump);
+
 void forwardedCall(benchmark::State& state)
 {
     entryOfIdleBackend();

@@ -1,8 +1,10 @@
 #include "nianlys.h"
 
-using namespace quordsp::backend;
+namespace quordsp::backend {
 
 Status AALFunc21(const double*, std::int64_t, double, double, std::int32_t, double*) noexcept
 {
     return Status::Success;
 }
+
+} // namespace quordsp::backend
