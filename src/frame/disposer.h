@@ -16,7 +16,7 @@ public:
     int remove(void* object) noexcept;
 
 private:
-    // Relaxed: each is only ever set to its one address.
+    // Each is only ever set to its one address.
     std::atomic<os::Symbol> register_{nullptr};
     std::atomic<os::Symbol> callback_{nullptr};
     std::atomic<os::Symbol> unregister_{nullptr};

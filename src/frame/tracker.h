@@ -31,8 +31,10 @@ public:
     // Looks the entry up unless it is known.
     void find() noexcept
     {
-        if (!known())
-            found_.store(findTrackerEntry(name_), std::memory_order_relaxed);
+        if (known())
+            return;
+        if (const os::Symbol found = findTrackerEntry(name_))
+            found_.store(found, std::memory_order_relaxed);
     }
 
     os::Symbol known() const noexcept { return found_.load(std::memory_order_relaxed); }
