@@ -4,6 +4,7 @@ set -eu
 root=$(cd "$(dirname "$0")/.." && pwd)
 export WINEPREFIX="${WINEPREFIX:-$root/build/wine}" WINEDEBUG=-all WINEDLLOVERRIDES="${WINEDLLOVERRIDES:-mscoree,mshtml=}"
 unset DISPLAY
+export LC_ALL=C.UTF-8 # in the C locale, arguments outside ASCII arrive mangled
 wine=/usr/lib/wine/wine64
 mkdir -p "$WINEPREFIX"
 if [ ! -e "$WINEPREFIX/.ready" ]; then
@@ -16,4 +17,6 @@ if [ ! -e "$WINEPREFIX/.ready" ]; then
         fi
     ) 9>"$WINEPREFIX/.lock"
 fi
+# A server that outlives its last program for a while spares the next one the start of a whole Windows.
+/usr/lib/wine/wineserver64 -p30 >/dev/null 2>&1 </dev/null || true
 exec "$wine" "$@"

@@ -1,0 +1,17 @@
+// The commands of the tool. A new one is a file in this folder and a row here: the row's first word names the function,
+// in namespace command, that adds the command's options to its parser and says what to run.
+#pragma once
+#include <CLI/CLI.hpp>
+
+#define QUORDSP_COMMANDS(ROW)                                                                                          \
+    ROW(filter, "Filter a signal: low-pass, high-pass, band-pass or band-stop")                                        \
+    ROW(spectrum, "Amplitude or power spectrum of a signal, and its strongest line")                                   \
+    ROW(info, "Which analysis backend is in use, or why none was found")
+
+namespace quordsp::cli::command {
+
+#define QUORDSP_DECLARE(name, summary) void name(CLI::App& app);
+QUORDSP_COMMANDS(QUORDSP_DECLARE)
+#undef QUORDSP_DECLARE
+
+} // namespace quordsp::cli::command

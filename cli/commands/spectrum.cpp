@@ -1,0 +1,143 @@
+// quordsp spectrum: the single-sided spectrum of one column, and the sine behind its strongest line.
+#include <iostream>
+#include <memory>
+#include <numbers>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "commands/commands.h"
+#include "failure.h"
+#include "input.h"
+#include "number.h"
+#include "options.h"
+#include "spectrum_kinds.h"
+#include "status.h"
+#include "strongest_line.h"
+
+namespace quordsp::cli::command {
+namespace {
+
+struct Options {
+    InputChoice input;
+    OutputChoice output;
+    Span span;
+    std::string amplitude = "rms";
+    bool power = false;
+
+    [[nodiscard]] const SpectrumKind& kind() const { return spectrumKind(power ? "power" : amplitude); }
+};
+
+struct Spectrum {
+    const SpectrumKind& kind;
+    std::vector<double> levels;
+    double spacing; // Hz between two bins
+    std::optional<StrongestLine> line;
+};
+
+Spectrum spectrumOf(const Series& series, const SpectrumKind& kind)
+{
+    const std::size_t count = series.samples.size();
+    std::vector<double> levels(binCount(count));
+    check(kind.run(series.samples, 1 / series.rate, levels.data()), std::string(kind.name) + " spectrum");
+    auto line = findStrongestLine(series.samples, series.rate, levels);
+    return {kind, std::move(levels), series.rate / static_cast<double>(count), line};
+}
+
+std::string levelUnit(const Series& series, const SpectrumKind& kind)
+{
+    return series.label.unit + (kind.squared && !series.label.unit.empty() ? "2" : "");
+}
+
+// "x amplitude, rms (g)"
+Label levelLabel(const Series& series, const SpectrumKind& kind)
+{
+    const std::string quantity = kind.squared ? "power" : "amplitude, " + std::string(kind.name);
+    return {quantity, series.label.unit + (kind.squared && !series.label.unit.empty() ? "^2" : "")};
+}
+
+std::string amplitudeText(double peak, const std::string& unit)
+{
+    return withUnit(rounded(peak, 5), unit) + " peak, " + withUnit(rounded(peak / std::numbers::sqrt2, 5), unit) +
+           " rms";
+}
+
+void printLine(const Spectrum& spectrum, const std::string& unit)
+{
+    if (!spectrum.line) {
+        std::cout << "strongest line: none, the signal is constant\n";
+        return;
+    }
+    const StrongestLine& line = *spectrum.line;
+    if (line.sine)
+        std::cout << "strongest line: " << rounded(line.sine->frequency, 8) << " Hz, "
+                  << amplitudeText(line.sine->amplitude, unit) << '\n'
+                  << "  by a least-squares fit of a sine (Hann weights), which leaves "
+                  << rounded(100 * (1 - line.sine->share), 3) << " % of the variance\n";
+    else
+        std::cout << "strongest line: no single sine fits around the highest bin; its reading is all there is\n";
+    std::cout << "highest bin:    " << rounded(line.frequency, 8) << " Hz, "
+              << amplitudeText(spectrum.kind.peakOf(spectrum.levels[line.bin]), unit) << '\n';
+}
+
+std::optional<Callout> calloutOf(const Spectrum& spectrum, const std::string& unit)
+{
+    if (!spectrum.line || !spectrum.line->sine)
+        return std::nullopt;
+    const auto& [bin, frequency, sine] = *spectrum.line;
+    return Callout{frequency, spectrum.levels[bin],
+                   rounded(sine->frequency, 5) + " Hz, " + withUnit(rounded(sine->amplitude, 4), unit) + " peak"};
+}
+
+Plot plotOf(const Series& series, const Spectrum& spectrum, const Options& options)
+{
+    return {.title = series.label.quantity + ", " + (spectrum.kind.squared ? "power" : "amplitude") + " spectrum",
+            .subtitle = display(options.input.path.filename()) + ", " + rounded(series.start) + " s to " +
+                        rounded(series.time(series.samples.size())) + " s, " + std::to_string(series.samples.size()) +
+                        " samples, bins " + rounded(spectrum.spacing, 4) + " Hz apart",
+            .xLabel = "frequency (Hz)",
+            .yLabel = levelLabel(series, spectrum.kind).axis(),
+            .xStep = spectrum.spacing,
+            .logarithmic = true,
+            .curves = {{"", spectrum.levels}},
+            .callout = calloutOf(spectrum, series.label.unit)};
+}
+
+void run(const Options& options)
+{
+    requireDifferentFiles(options.input, options.output);
+    const Series series = cut(readSeries(options.input), options.span);
+    const Spectrum spectrum = spectrumOf(series, options.kind());
+    const auto count = static_cast<double>(series.samples.size());
+    const std::string name = columnName(spectrum.kind.quantity, levelUnit(series, spectrum.kind));
+    writeResult(options.output,
+                {{"frequency_Hz", [&](std::size_t i) { return static_cast<double>(i) * series.rate / count; }},
+                 {name, [&](std::size_t i) { return spectrum.levels[i]; }}},
+                spectrum.levels.size(), [&] { return plotOf(series, spectrum, options); });
+    std::cout << series.samples.size() << " samples of " << series.label.axis() << " at " << rounded(series.rate)
+              << " Hz\n";
+    printLine(spectrum, series.label.unit);
+    std::cout << "bin spacing:    " << rounded(spectrum.spacing) << " Hz\n";
+    printWritten(options.output);
+}
+
+} // namespace
+
+void spectrum(CLI::App& app)
+{
+    const auto options = std::make_shared<Options>();
+    addInput(app, options->input);
+    addOutput(app, options->output);
+    auto* const amplitude =
+        app.add_option("--amplitude", options->amplitude, "What a line shows of its sine; DC is its value")
+            ->check(CLI::IsMember({"rms", "peak"}))
+            ->capture_default_str();
+    app.add_flag("--power", options->power, "Power, the square of the rms amplitude")->excludes(amplitude);
+    app.add_option("--from", options->span.from, "Leave out what comes before")->check(kNumber)->type_name("S");
+    app.add_option("--to", options->span.to, "Leave out this time and what comes after")
+        ->check(kNumber)
+        ->type_name("S");
+    app.callback([options] { run(*options); });
+}
+
+} // namespace quordsp::cli::command

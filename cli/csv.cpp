@@ -1,0 +1,124 @@
+#include "csv.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "failure.h"
+#include "number.h"
+
+namespace quordsp::cli {
+namespace {
+
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+std::string_view firstLine(std::string_view text)
+{
+    return text.substr(0, text.find_first_of("\r\n"));
+}
+
+// A semicolon or a tab outside quotes is hardly ever anything else than a separator; a comma may be a decimal sign.
+char findSeparator(std::string_view line)
+{
+    bool quoted = false;
+    for (const char c : line) {
+        quoted ^= c == '"';
+        if (!quoted && (c == ';' || c == '\t'))
+            return c;
+    }
+    return ',';
+}
+
+bool isNumber(std::string_view field)
+{
+    return parseNumber(field).has_value();
+}
+
+std::vector<std::string> copy(std::span<const std::string_view> fields)
+{
+    return {fields.begin(), fields.end()};
+}
+
+// A name stands above numbers. Where the second row does not tell, as when both rows start with a date, the other
+// columns do.
+bool namesColumns(const std::vector<std::string>& first, const std::vector<std::string>& second)
+{
+    for (std::size_t i = 0; i < first.size(); ++i)
+        if (!isNumber(first[i]) && !first[i].empty() && (i >= second.size() || isNumber(second[i])))
+            return true;
+    return std::ranges::none_of(first, isNumber);
+}
+
+std::string unescaped(std::string name)
+{
+    for (auto quote = name.find("\"\""); quote != std::string::npos; quote = name.find("\"\"", quote + 1))
+        name.erase(quote, 1);
+    return name;
+}
+
+std::string shortened(std::string_view field)
+{
+    constexpr std::size_t kLongest = 40;
+    return field.size() <= kLongest ? std::string(field) : std::string(field.substr(0, kLongest)) + "...";
+}
+
+} // namespace
+
+CsvDocument::CsvDocument(std::string text, std::string fileName)
+    : text_(std::move(text)), fileName_(std::move(fileName))
+{
+    if (text_.starts_with("\xFF\xFE") || text_.starts_with("\xFE\xFF"))
+        fail(1, "the text is in UTF-16", "save it as UTF-8 or plain ASCII");
+    if (text_.starts_with(kByteOrderMark))
+        text_.erase(0, kByteOrderMark.size());
+    separator_ = findSeparator(firstLine(text_));
+    readNames();
+}
+
+CsvRows CsvDocument::rows() const
+{
+    return {text_, separator_, fileName_};
+}
+
+void CsvDocument::readNames()
+{
+    CsvRows row = rows();
+    if (!row.next())
+        fail(1, "the file is empty", "name a file with one sample a line");
+    names_ = copy(row.fields());
+    hasHeader_ = namesColumns(names_, row.next() ? copy(row.fields()) : std::vector<std::string>{});
+    for (std::size_t i = 0; i < names_.size(); ++i)
+        names_[i] = hasHeader_ && !names_[i].empty() ? unescaped(names_[i]) : "column " + std::to_string(i + 1);
+}
+
+std::vector<std::vector<double>> CsvDocument::columns(std::span<const std::size_t> chosen) const
+{
+    std::vector<std::vector<double>> values(chosen.size());
+    CsvRows row = rows();
+    if (hasHeader_)
+        row.next();
+    while (row.next())
+        for (std::size_t i = 0; i < chosen.size(); ++i)
+            values[i].push_back(number(row, chosen[i]));
+    return values;
+}
+
+double CsvDocument::number(const CsvRows& row, std::size_t column) const
+{
+    const std::string where = "column '" + names_[column] + "'";
+    if (column >= row.fields().size())
+        fail(row.line(), where + " is missing: the line has " + std::to_string(row.fields().size()) + " fields",
+             "every line needs the same number of fields");
+    const std::string_view field = row.fields()[column];
+    if (const auto value = parseNumber(field))
+        return *value;
+    const bool decimalComma = field.find(',') != std::string_view::npos;
+    fail(row.line(), where + ": '" + shortened(field) + "' is not a number",
+         decimalComma ? "write numbers with a decimal point" : "correct the field, or choose another --column");
+}
+
+void CsvDocument::fail(std::size_t line, const std::string& what, const std::string& advice) const
+{
+    throw Failure(ExitCode::Input, fileName_ + ":" + std::to_string(line) + ": " + what, advice);
+}
+
+} // namespace quordsp::cli

@@ -1,0 +1,73 @@
+#include "label.h"
+
+#include <algorithm>
+
+namespace quordsp::cli {
+namespace {
+
+constexpr std::string_view kUnits[] = {
+    "s",  "ms",  "us",   "min",  "h",   "Hz", "kHz", "rpm", "rad", "deg", "degC", "K", "g",  "m",  "mm",
+    "um", "m/s", "mm/s", "m/s2", "N",   "kN", "Nm",  "Pa",  "kPa", "MPa", "bar",  "V", "mV", "uV", "A",
+    "mA", "W",   "Ohm",  "FS",   "pct", "%",  "dB",  "dBA", "C",   "pC",  "kg",   "J", "T",  "mT", "lx",
+};
+
+bool isKnownUnit(std::string_view text)
+{
+    return std::ranges::find(kUnits, text) != std::end(kUnits);
+}
+
+std::string trimmed(std::string_view text)
+{
+    const auto first = text.find_first_not_of(" _");
+    const auto last = text.find_last_not_of(" _");
+    return first == std::string_view::npos ? "" : std::string(text.substr(first, last - first + 1));
+}
+
+// "force (N)", "emf [mV]"
+bool splitBrackets(std::string_view name, Label& label)
+{
+    if (name.empty() || (name.back() != ')' && name.back() != ']'))
+        return false;
+    const auto open = name.rfind(name.back() == ')' ? '(' : '[');
+    if (open == std::string_view::npos || open == 0)
+        return false;
+    label = {trimmed(name.substr(0, open)), trimmed(name.substr(open + 1, name.size() - open - 2))};
+    return true;
+}
+
+// "x_g"
+bool splitUnderscore(std::string_view name, Label& label)
+{
+    const auto cut = name.rfind('_');
+    if (cut == std::string_view::npos || cut == 0 || !isKnownUnit(name.substr(cut + 1)))
+        return false;
+    label = {trimmed(name.substr(0, cut)), std::string(name.substr(cut + 1))};
+    return true;
+}
+
+} // namespace
+
+std::string Label::axis() const
+{
+    return unit.empty() ? quantity : quantity + " (" + unit + ")";
+}
+
+Label parseLabel(std::string_view columnName)
+{
+    Label label;
+    if (splitBrackets(columnName, label) || splitUnderscore(columnName, label))
+        return label;
+    return {std::string(columnName), ""};
+}
+
+std::string columnName(std::string_view quantity, std::string_view unit)
+{
+    return unit.empty() ? std::string(quantity) : std::string(quantity) + "_" + std::string(unit);
+}
+
+std::string withUnit(const std::string& number, std::string_view unit)
+{
+    return unit.empty() ? number : number + " " + std::string(unit);
+}
+
+} // namespace quordsp::cli

@@ -1,0 +1,76 @@
+#include "os.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <string_view>
+
+#include <dlfcn.h>
+#include <link.h>
+
+namespace quordsp::cli::os {
+namespace {
+
+struct Search {
+    std::string_view fileName;
+    std::string path;
+};
+
+int compareModule(dl_phdr_info* module, std::size_t, void* data)
+{
+    auto& search = *static_cast<Search*>(data);
+    const std::string_view path = module->dlpi_name;
+    if (path.substr(path.rfind('/') + 1) != search.fileName)
+        return 0;
+    search.path = path;
+    return 1; // stops
+}
+
+std::string absolute(const std::string& path)
+{
+    std::error_code error;
+    const auto full = std::filesystem::canonical(path, error);
+    return error ? path : full.string();
+}
+
+} // namespace
+
+const char* const kBackendFile = "libnianlys.so";
+
+Utf8Console::Utf8Console() = default;
+
+Utf8Console::~Utf8Console() = default;
+
+std::string loadedModulePath(const std::string& fileName)
+{
+    Search search{fileName, {}};
+    dl_iterate_phdr(compareModule, &search);
+    return search.path.empty() ? "" : absolute(search.path);
+}
+
+std::string modulePathOf(const void* address)
+{
+    Dl_info info;
+    return dladdr(address, &info) != 0 && info.dli_fname ? absolute(info.dli_fname) : "";
+}
+
+std::string moduleVersion(const std::string&)
+{
+    return {}; // a shared object carries none
+}
+
+std::vector<BackendPlace> backendPlaces(const void* insideLibrary)
+{
+    const std::filesystem::path library = modulePathOf(insideLibrary);
+    return {{"the system's search (LD_LIBRARY_PATH and the folders of the loader)", kBackendFile, {}},
+            {"beside the library", (library.parent_path() / kBackendFile).string(), {}}};
+}
+
+std::string loadError(const std::string& path)
+{
+    if (dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL))
+        return {};
+    const char* const text = dlerror(); // NOLINT(concurrency-mt-unsafe): the tool has one thread
+    return text ? text : "the system gives no reason";
+}
+
+} // namespace quordsp::cli::os

@@ -1,0 +1,20 @@
+#include "strongest_line.h"
+
+#include <algorithm>
+
+namespace quordsp::cli {
+
+std::optional<StrongestLine> findStrongestLine(std::span<const double> samples, double rate,
+                                               std::span<const double> levels)
+{
+    if (levels.size() < 2)
+        return std::nullopt;
+    const auto highest = std::max_element(levels.begin() + 1, levels.end());
+    if (!(*highest > 0))
+        return std::nullopt;
+    const auto bin = static_cast<std::size_t>(highest - levels.begin());
+    const double frequency = static_cast<double>(bin) * rate / static_cast<double>(samples.size());
+    return StrongestLine{bin, frequency, fitSine(samples, rate, frequency)};
+}
+
+} // namespace quordsp::cli

@@ -1,0 +1,21 @@
+// The strongest line of a spectrum: the bin that shows it, and the sine that stands there, between two bins as a rule.
+#pragma once
+#include <optional>
+#include <span>
+
+#include "sine_fit.h"
+
+namespace quordsp::cli {
+
+struct StrongestLine {
+    std::size_t bin; // of the highest level, DC excluded; its level is up to 36 % below that of a sine between two bins
+    double frequency;         // Hz, of the bin
+    std::optional<Sine> sine; // fitted to the samples around that frequency; nothing when no sine settles there
+};
+
+// The levels are those of the single-sided spectrum of the samples. Nothing when there is no bin besides DC or all are
+// empty.
+std::optional<StrongestLine> findStrongestLine(std::span<const double> samples, double rate,
+                                               std::span<const double> levels);
+
+} // namespace quordsp::cli

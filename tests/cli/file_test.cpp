@@ -1,0 +1,107 @@
+#include "file.h"
+
+#include <gmock/gmock.h>
+
+#include "failure_of.h"
+#include "scratch_folder.h"
+
+namespace quordsp::cli {
+namespace {
+
+using testing::HasSubstr;
+
+TEST(ReadFile, ReturnsEveryByte)
+{
+    const ScratchFolder folder;
+    const std::string bytes("a\0\r\n\x1A\xFFz", 7);
+    EXPECT_EQ(readFile(folder.put("f", bytes)), bytes);
+}
+
+TEST(ReadFile, NamesAFileThatIsNotThere)
+{
+    const ScratchFolder folder;
+    const Failure failure = failureOf([&] { readFile(folder / "none.csv"); });
+    EXPECT_EQ(failure.code(), ExitCode::Input);
+    EXPECT_THAT(failure.what(), HasSubstr("none.csv: No such file or directory"));
+}
+
+TEST(ReadFile, RefusesAFolder)
+{
+    const ScratchFolder folder;
+    EXPECT_THAT(messageOf([&] { readFile(folder / ""); }), HasSubstr("it is a folder"));
+}
+
+TEST(OutputFile, HasItsNameAfterTheCommitOnly)
+{
+    const ScratchFolder folder;
+    {
+        OutputFile file(folder / "out");
+        file.write("content");
+        EXPECT_FALSE(std::filesystem::exists(folder / "out"));
+        file.commit();
+    }
+    EXPECT_EQ(ScratchFolder::get(folder / "out"), "content");
+    EXPECT_EQ(folder.fileCount(), 1);
+}
+
+TEST(OutputFile, LeavesNothingBehindWithoutACommit)
+{
+    const ScratchFolder folder;
+    {
+        OutputFile file(folder / "out");
+        file.write("half");
+    }
+    EXPECT_EQ(folder.fileCount(), 0);
+}
+
+TEST(OutputFile, KeepsTheOlderFileWithoutACommit)
+{
+    const ScratchFolder folder;
+    folder.put("out", "older");
+    {
+        OutputFile file(folder / "out");
+        file.write("half");
+    }
+    EXPECT_EQ(ScratchFolder::get(folder / "out"), "older");
+    EXPECT_EQ(folder.fileCount(), 1);
+}
+
+TEST(OutputFile, ReplacesTheOlderFile)
+{
+    const ScratchFolder folder;
+    folder.put("out", "older and longer");
+    OutputFile file(folder / "out");
+    file.write("newer");
+    file.commit();
+    EXPECT_EQ(ScratchFolder::get(folder / "out"), "newer");
+}
+
+TEST(OutputFile, RefusesAFolderThatIsNotThere)
+{
+    const ScratchFolder folder;
+    const Failure failure = failureOf([&] { OutputFile file(folder / "none/out"); });
+    EXPECT_EQ(failure.code(), ExitCode::Output);
+    EXPECT_THAT(failure.what(), HasSubstr("No such file or directory"));
+}
+
+TEST(OutputFile, RefusesToReplaceAFolder)
+{
+    const ScratchFolder folder;
+    std::filesystem::create_directory(folder / "out");
+    EXPECT_EQ(failureOf([&] { OutputFile file(folder / "out"); }).code(), ExitCode::Output);
+    EXPECT_EQ(folder.fileCount(), 1);
+}
+
+TEST(OutputFile, TakesNamesOutsideAscii)
+{
+    const ScratchFolder folder;
+    const std::filesystem::path name = folder / u8"\u00E4\u4E2D.csv";
+    OutputFile file(name);
+    file.write("x");
+    file.commit();
+    EXPECT_EQ(readFile(name), "x");
+    EXPECT_THAT(display(name), HasSubstr("\xC3\xA4\xE4\xB8\xAD.csv"));
+}
+
+} // namespace
+} // namespace quordsp::cli

@@ -1,0 +1,57 @@
+#include "label.h"
+
+#include <gtest/gtest.h>
+
+namespace quordsp::cli {
+namespace {
+
+struct Case {
+    const char* name;
+    const char* quantity;
+    const char* unit;
+};
+
+TEST(Label, TakesQuantityAndUnitFromTheColumnName)
+{
+    constexpr Case kCases[] = {
+        {"x_g", "x", "g"},
+        {"cold_junction_degC", "cold_junction", "degC"},
+        {"velocity_mm/s", "velocity", "mm/s"},
+        {"force (N)", "force", "N"},
+        {"emf [mV]", "emf", "mV"},
+        {"flow (l/min)", "flow", "l/min"},
+        {"sensor_left", "sensor_left", ""},
+        {"_g", "_g", ""},
+        {"g", "g", ""},
+        {"(N)", "(N)", ""},
+        {")", ")", ""},
+        {"", "", ""},
+        {"column 1", "column 1", ""},
+    };
+    for (const auto& [name, quantity, unit] : kCases) {
+        const Label label = parseLabel(name);
+        EXPECT_EQ(label.quantity, quantity) << name;
+        EXPECT_EQ(label.unit, unit) << name;
+    }
+}
+
+TEST(Label, NamesAnAxisWithAndWithoutAUnit)
+{
+    EXPECT_EQ((Label{"x", "g"}.axis()), "x (g)");
+    EXPECT_EQ((Label{"x", ""}.axis()), "x");
+}
+
+TEST(Label, NamesAColumnWithAndWithoutAUnit)
+{
+    EXPECT_EQ(columnName("filtered", "g"), "filtered_g");
+    EXPECT_EQ(columnName("filtered", ""), "filtered");
+}
+
+TEST(Label, PutsAUnitBehindANumber)
+{
+    EXPECT_EQ(withUnit("10.1", "g"), "10.1 g");
+    EXPECT_EQ(withUnit("10.1", ""), "10.1");
+}
+
+} // namespace
+} // namespace quordsp::cli
