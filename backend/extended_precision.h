@@ -1,6 +1,5 @@
 // long double has 64 bits of mantissa on x86 only as long as the thread's control word says so. Windows starts threads
-// with 53; while an ExtendedPrecision lives, this one has 64. What is computed must stand in a function of its own that
-// the compiler does not mix with this one.
+// with 53; while an ExtendedPrecision lives, this one has 64.
 #pragma once
 
 #include <cstdint>
@@ -26,5 +25,19 @@ private:
     ExtendedPrecision() = default;
 #endif
 };
+
+template <class Body>
+[[gnu::noinline]] auto callApart(const Body& body)
+{
+    return body();
+}
+
+// What body computes stands in a function of its own, so that the compiler cannot move it out of the guarded stretch.
+template <class Body>
+auto inExtendedPrecision(const Body& body)
+{
+    const ExtendedPrecision precision;
+    return callApart(body);
+}
 
 } // namespace quordsp::backend

@@ -1,7 +1,6 @@
 // How an entry checks its arguments and turns whatever goes wrong inside it into a status.
 #pragma once
 
-#include "extended_precision.h"
 #include "nianlys.h"
 
 namespace quordsp::backend {
@@ -32,7 +31,6 @@ void requireArrays(const T*... arrays)
 template <class Body>
 Status guarded(Body body) noexcept
 {
-    const ExtendedPrecision precision;
     try {
         body();
         return Status::Success;

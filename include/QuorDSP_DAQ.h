@@ -157,7 +157,8 @@
  * the Nyquist bin n/2 of an even n next, then the negative frequencies. "Shifted" puts 0 Hz at index floor(n/2) (of
  * each axis): the shifted element i is Y[(i + ceil(n/2)) mod n].
  *
- * Power and amplitude, for a signal in V; Y is the transform of the n samples:
+ * Power and amplitude, for a signal in V; Y is the transform of the n samples (it is formed before it is scaled, so
+ * that sums beyond 1.8e308 become infinite):
  *     QuorDSP_Spectrum, QuorDSP_CxSpectrum   two-sided power, V^2: |Y[k]|^2/n^2; the sum is the mean square
  *     QuorDSP_AutoPowerSpectrum              one-sided power, V^2 rms: a sine of peak A on a bin reads A^2/2
  *     QuorDSP_AmpPhaseSpectrum               one-sided amplitude, V rms: the same sine reads A/sqrt(2); the phase
@@ -319,7 +320,7 @@ extern "C" {
  *         (QuorDSP_AllocIIRFilterPtrFunction)GetProcAddress(GetModuleHandleA("nianlys.dll"), "AllocIIRFilterPtr");
  */
 
-/** AllocIIRFilterPtr: a filter record for type 0..3 and order 1 or more, without a design yet; null on failure. */
+/** AllocIIRFilterPtr: a filter record for type 0..3 and order 1 to 2^20, without a design yet; null on failure. */
 typedef QuorDSP_IIRFilter* (*QuorDSP_AllocIIRFilterPtrFunction)(int type, int order);
 
 /** ResetIIRFilter: the next filtering with this record starts from zero state. */
@@ -346,10 +347,11 @@ typedef AnalysisLibErrType (*QuorDSP_FreeAnalysisMemFunction)(void* memory);
  * @param n           number of samples, 1 or more
  * @param fs     Hz   sampling frequency, > 0
  * @param fc     Hz   cut-off, 0 < fc < fs/2
- * @param order       1 or more; very high orders lose accuracy
+ * @param order       1 or more; above 2^20: -20001; very high orders lose accuracy
  * @param out    [n]  filtered samples, in the unit of in
  * @return 0; -5093 no backend; -5094 entry missing; -20003 n; -20008 null array; -20021 order; -20020 fs or fc;
- *         -20031 a coefficient of the design is not finite; -20001 memory. On failure out is untouched.
+ *         -20031 a coefficient of the design is not finite, or the filter cannot be represented in double precision:
+ *         unstable or gain off by more than 1e-3; -20001 memory. On failure out is untouched.
  * @threads any, on different arrays    @entry AALFunc21    @source O&S, ch. 7 and app. B
  */
 QUORDSP_API AnalysisLibErrType QuorDSP_Bw_LPF(const double* in, int n, double fs, double fc, int order, double* out);
@@ -685,7 +687,7 @@ QUORDSP_API AnalysisLibErrType QuorDSP_CxElp_BSF(const double* inRe, const doubl
  * @param countB            as countA
  * @return 0; -5093 no backend; -5094 entry missing; -20008 null array or wrong length; -20021 order; -20020
  *         frequencies of types 0 and 1; -20023 frequencies of types 2 and 3; -20061 type; -20031 a coefficient is
- *         not finite; -20001 memory. On failure the arrays are untouched.
+ *         not finite, or the degree is above 2^14; -20001 memory. On failure the arrays are untouched.
  * @threads any, on different arrays    @entry AALFunc19    @source O&S, ch. 7 and app. B
  */
 QUORDSP_API AnalysisLibErrType QuorDSP_Bw_Coef(int type, int order, double fs, double fl, double fh, double* coefsA,
@@ -733,8 +735,9 @@ QUORDSP_API AnalysisLibErrType QuorDSP_Elp_Coef(int type, int order, double fs, 
  * @param fh     Hz   upper cut-off of types 2 and 3, fl < fh < fs/2; ignored for types 0 and 1
  * @param filter      record from AllocIIRFilterPtr that receives the design
  * @return 0; -5093 no backend; -5094 entry missing; -20066 record null or inconsistent; -20020 frequencies of types
- *         0 and 1; -20023 frequencies of types 2 and 3; -20031 a coefficient is not finite; -20001 memory. On
- *         failure the record is untouched.
+ *         0 and 1; -20023 frequencies of types 2 and 3; -20031 a coefficient is not finite, or the filter cannot be
+ *         represented in double precision: unstable or gain off by more than 1e-3; -20001 memory. On failure the
+ *         record is untouched.
  * @threads any, on different records    @entry AALFunc18    @source O&S, ch. 6 and 7, app. B
  */
 QUORDSP_API AnalysisLibErrType QuorDSP_Bw_CascadeCoef(double fs, double fl, double fh, QuorDSP_IIRFilter* filter);

@@ -1,8 +1,7 @@
 #include "iir/design.h"
 
+#include "extended_precision.h"
 #include "status.h"
-
-#include <algorithm>
 
 namespace quordsp::backend {
 namespace {
@@ -36,14 +35,17 @@ void check(const Design& design)
     require(isKnown(design.response), Status::InvalidSelection);
 }
 
-std::vector<Biquad> biquadsOf(const Design& design)
+std::vector<AnalogSection> sectionsOf(const Design& design)
 {
     require(design.order <= kLargestOrder, Status::OutOfMemory);
-    const Prototype prototype = design.family.prototype(design.order, design.tolerances);
-    const std::vector<AnalogSection> sections = transform(prototype, design.response, design.frequencies);
-    std::vector<Biquad> biquads(sections.size());
-    std::transform(sections.begin(), sections.end(), biquads.begin(), bilinear);
-    return biquads;
+    return transform(design.family.prototype(design.order, design.tolerances), design.response, design.frequencies);
+}
+
+Coefficients cascadeOf(const Design& design, std::size_t sectionOrder)
+{
+    return inExtendedPrecision([&] {
+        return roundedSections(sectionsOf(design), sectionOrder, axisPoints(design.response, design.frequencies));
+    });
 }
 
 std::int64_t directCount(Response response, std::int32_t order)

@@ -19,7 +19,10 @@ struct Design {
 // Throws what is wrong with the order, the frequencies, the tolerances or the response, in this order.
 void check(const Design& design);
 
-std::vector<Biquad> biquadsOf(const Design& design);
+// To be called in extended precision.
+std::vector<AnalogSection> sectionsOf(const Design& design);
+
+Coefficients cascadeOf(const Design& design, std::size_t sectionOrder);
 
 // The number of coefficients of the direct form.
 std::int64_t directCount(Response response, std::int32_t order);

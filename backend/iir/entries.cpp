@@ -1,5 +1,6 @@
 #include "iir/entries.h"
 
+#include "extended_precision.h"
 #include "flush_subnormals.h"
 #include "iir/cascade_kernel.h"
 #include "iir/direct_kernel.h"
@@ -22,13 +23,38 @@ void requireLengths(std::int32_t na, std::int32_t nb, Response response, std::in
     require(na == wanted && nb == wanted, Status::ArraySize);
 }
 
-void storeDirect(const Polynomial& denominator, const Polynomial& numerator, double* a, double* b, std::int64_t count)
-{
-    requireFinite(denominator);
-    requireFinite(numerator);
-    roundTo({a, static_cast<std::size_t>(count)}, denominator);
-    roundTo({b, static_cast<std::size_t>(count)}, numerator);
-}
+// The largest degree of a direct form. Butterworth filters overflow before they reach it; of others it bounds the time,
+// which grows with the square.
+constexpr std::size_t kLargestDegree = 1 << 14;
+
+// The product of sections. DesignFailed as soon as double cannot hold the denominator.
+class DirectForm {
+public:
+    void multiply(std::span<const Real> denominator, std::span<const Real> numerator)
+    {
+        multiplyBy(denominator_, denominator);
+        multiplyBy(numerator_, numerator);
+        require(std::max(denominator_.size(), numerator_.size()) <= kLargestDegree + 1, Status::DesignFailed);
+        requireFinite(denominator_);
+    }
+
+    // a and b have room for more than is stored; the rest becomes 0.
+    void store(std::span<double> a, std::span<double> b) const
+    {
+        requireFinite(numerator_);
+        roundTo(a, denominator_);
+        roundTo(b, numerator_);
+    }
+
+private:
+    static void roundTo(std::span<double> out, const Polynomial& polynomial)
+    {
+        const auto toDouble = [](Real value) { return static_cast<double>(value); };
+        std::fill(std::transform(polynomial.begin(), polynomial.end(), out.begin(), toDouble), out.end(), 0.0);
+    }
+
+    Polynomial denominator_{1}, numerator_{1};
+};
 
 // Section k of a filter as polynomials.
 Polynomial denominatorOf(const IirFilter& filter, std::size_t k)
@@ -55,7 +81,7 @@ Status designAndFilter(const Sample* x, std::int64_t n, const Design& design, Sa
         requirePositiveCount(n);
         requireArrays(x, y);
         check(design);
-        const Coefficients filter = roundedSections(biquadsOf(design), 2);
+        const Coefficients filter = cascadeOf(design, 2);
         std::vector<Sample> state(filter.reverse.size());
         const FlushSubnormals flush;
         filterCascade<2>(x, n, state.size() / 2, filter.reverse.data(), filter.forward.data(), state.data(), y);
@@ -70,14 +96,15 @@ Status designDirect(const Design& design, double* a, std::int32_t na, double* b,
         requireArrays(a, b);
         check(design);
         requireLengths(na, nb, design.response, design.order);
-        Polynomial denominator{1}, numerator{1};
-        // Sharp sections first: where an order is too high for this form, they show it soonest.
-        for (const Biquad& biquad : biquadsOf(design) | std::views::reverse) {
-            multiplyBy(denominator, biquad.a);
-            multiplyBy(numerator, biquad.b);
-            requireFinite(denominator);
-        }
-        storeDirect(denominator, numerator, a, b, na);
+        inExtendedPrecision([&] {
+            DirectForm form;
+            // Sharp sections first: where an order is too high for this form, they show it soonest.
+            for (const AnalogSection& section : sectionsOf(design) | std::views::reverse) {
+                const Biquad biquad = bilinear(section);
+                form.multiply(biquad.a, biquad.b);
+            }
+            form.store({a, size(na)}, {b, size(nb)});
+        });
     });
 }
 
@@ -87,13 +114,12 @@ Status cascadeToDirect(const IirFilter* filter, double* a, std::int32_t na, doub
         requireArrays(a, b);
         requireConsistent(filter);
         requireLengths(na, nb, Response{filter->type}, filter->order);
-        Polynomial denominator{1}, numerator{1};
-        for (std::size_t k = 0; k < sectionCount(filter->order); ++k) {
-            multiplyBy(denominator, denominatorOf(*filter, k));
-            multiplyBy(numerator, numeratorOf(*filter, k));
-            requireFinite(denominator);
-        }
-        storeDirect(denominator, numerator, a, b, na);
+        inExtendedPrecision([&] {
+            DirectForm form;
+            for (std::size_t k = 0; k < sectionCount(filter->order); ++k)
+                form.multiply(denominatorOf(*filter, k), numeratorOf(*filter, k));
+            form.store({a, size(na)}, {b, size(nb)});
+        });
     });
 }
 
@@ -104,7 +130,7 @@ Status designCascade(const Family& family, const Frequencies& frequencies, const
         requireConsistent(filter);
         const Design design{family, Response{filter->type}, filter->order, frequencies, tolerances};
         check(design);
-        const Coefficients cascade = roundedSections(biquadsOf(design), sectionOrder(design.response));
+        const Coefficients cascade = cascadeOf(design, sectionOrder(design.response));
         std::copy(cascade.reverse.begin(), cascade.reverse.end(), filter->reverse);
         std::copy(cascade.forward.begin(), cascade.forward.end(), filter->forward);
         filter->reset = 1;

@@ -7,11 +7,6 @@
 namespace quordsp::backend {
 namespace {
 
-bool isFinite(Real value)
-{
-    return std::isfinite(static_cast<double>(value));
-}
-
 std::size_t degreeOf(std::span<const Real> polynomial)
 {
     std::size_t degree = polynomial.size() - 1;
@@ -20,56 +15,118 @@ std::size_t degreeOf(std::span<const Real> polynomial)
     return degree;
 }
 
-// Rounds a1, a2, ... so that the last one that is not 0 takes up what the rounding of the others did to the polynomial
-// at z = 1, or at z = -1 for poles on that side. There a narrow filter is sensitive: with a cut-off of 1e-4 fs the
-// polynomial itself is only 4e-7, against which 2e-16 in one coefficient is 5e-10. In the pole radius, which the last
-// coefficient sets, the same 2e-16 stands against 1e-3.
-void roundDenominator(std::span<const Real> a, std::span<double> rounded)
+bool isFinite(Real value)
 {
-    const Real z = a[1] > 0 ? -1 : 1;
-    const std::size_t degree = degreeOf(a);
+    return std::abs(value) <= std::numeric_limits<double>::max();
+}
+
+// Rounds so that the last coefficient that is not 0 takes up what the rounding of the others did to the polynomial at z
+// = 1, or at z = -1 for roots on that side. There a narrow filter is sensitive: with a cut-off of 1e-4 fs the
+// denominator itself is only 4e-7, against which 2e-16 in one coefficient is 5e-10. In the pole radius, which the last
+// coefficient sets, the same 2e-16 stands against 1e-3. Of a numerator, this keeps the roots that are exactly there.
+Quartic rounded(const Quartic& polynomial)
+{
+    const Real z = polynomial[1] > 0 ? -1 : 1;
+    const std::size_t degree = degreeOf(polynomial);
+    Quartic result{};
     Real lost = 0; // over the power of z that belongs to the coefficient in hand
-    for (std::size_t k = 1; k < a.size(); ++k) {
+    for (std::size_t k = 0; k < polynomial.size(); ++k) {
         lost *= z;
-        const Real wanted = a[k] + (k == degree ? lost : 0);
-        rounded[k - 1] = static_cast<double>(wanted);
-        lost += wanted - rounded[k - 1];
+        const Real wanted = polynomial[k] + (k == degree ? lost : 0);
+        result[k] = static_cast<double>(wanted);
+        lost += wanted - result[k];
     }
+    return result;
 }
 
-// All poles lie inside the unit circle. With 1/z = (1 - s) / (1 + s) they must lie left of the imaginary axis, which
-// Routh's conditions tell from the coefficients c of the polynomial in s; these are exact where the poles crowd at z
-// = 1. NaN meets none of the conditions.
-bool isStable(std::span<const double> reverse)
+// Whether all poles lie inside the unit circle, that is left of the imaginary axis of s, by Routh's conditions. These
+// are exact where the poles crowd at z = 1. NaN meets none of the conditions.
+bool isStable(const Quartic& c)
 {
-    std::array<Real, 4> a{};
-    std::copy(reverse.begin(), reverse.end(), a.begin());
-    const auto [a1, a2, a3, a4] = a;
-    const Real c0 = 1 + a2 + a4 + (a1 + a3), c4 = 1 + a2 + a4 - (a1 + a3);
-    const Real c1 = 4 * (1 - a4) + 2 * (a1 - a3), c3 = 4 * (1 - a4) - 2 * (a1 - a3);
-    const Real c2 = 6 * (1 + a4) - 2 * a2;
-    return c0 > 0 && c1 > 0 && c2 > 0 && c3 > 0 && c4 > 0 && c1 * c2 * c3 > c4 * c1 * c1 + c0 * c3 * c3;
+    return c[0] > 0 && c[1] > 0 && c[2] > 0 && c[3] > 0 && c[4] > 0 &&
+           c[1] * c[2] * c[3] > c[4] * c[1] * c[1] + c[0] * c[3] * c[3];
 }
 
-// One section out of the biquads given.
-void roundSection(std::span<const Biquad> biquads, std::span<double> reverse, std::span<double> forward)
+struct Quotient {
+    Quartic numerator, denominator;
+};
+
+Quartic asQuartic(const Polynomial& polynomial)
+{
+    Quartic result{};
+    std::copy(polynomial.begin(), polynomial.end(), result.begin());
+    return result;
+}
+
+Quotient multipliedOut(std::span<const AnalogSection> sections)
 {
     Polynomial a{1}, b{1};
-    for (const Biquad& biquad : biquads) {
+    for (const AnalogSection& section : sections) {
+        const Biquad biquad = bilinear(section);
         multiplyBy(a, biquad.a);
         multiplyBy(b, biquad.b);
     }
-    a.resize(forward.size());
-    b.resize(forward.size());
-    roundDenominator(a, reverse);
-    roundTo(forward, b);
-    require(isStable(reverse), Status::DesignFailed);
+    return {asQuartic(b), asQuartic(a)};
 }
+
+void store(std::span<const Real> values, std::span<double> out)
+{
+    requireFinite(values);
+    std::transform(values.begin(), values.end(), out.begin(), [](Real value) { return static_cast<double>(value); });
+}
+
+// Rounds section after section and keeps account of the gain.
+class Rounding {
+public:
+    explicit Rounding(std::span<const AxisPoint> points) : points_{points}, errors_(points.size(), 1) {}
+
+    // One section out of those given. The numerator is scaled to the exact gain at the reference frequency over the
+    // rounded denominator.
+    void round(std::span<const AnalogSection> sections, std::span<double> reverse, std::span<double> forward)
+    {
+        auto [numerator, denominator] = multipliedOut(sections);
+        denominator = rounded(denominator);
+        const Quartic analog = inverseBilinear(denominator);
+        require(isStable(analog), Status::DesignFailed);
+        const Real factor = 1 / std::sqrt(error(sections, numerator, analog, points_.front()));
+        for (Real& value : numerator)
+            value *= factor;
+        numerator = rounded(numerator);
+        for (std::size_t k = 0; k < points_.size(); ++k)
+            errors_[k] *= error(sections, numerator, analog, points_[k]);
+        store(std::span{denominator}.subspan(1, reverse.size()), reverse);
+        store(std::span{numerator}.first(forward.size()), forward);
+    }
+
+    // DesignFailed if the product of the sections is off.
+    void requireGain() const
+    {
+        for (Real squared : errors_)
+            require(std::abs(std::sqrt(squared) - 1) <= kLargestGainError, Status::DesignFailed);
+    }
+
+private:
+    static constexpr Real kLargestGainError = 1e-3L;
+
+    // The squared gain over the exact one; the denominator is one in s already.
+    static Real error(std::span<const AnalogSection> sections, const Quartic& numerator, const Quartic& denominator,
+                      const AxisPoint& point)
+    {
+        Real result = powerAt(inverseBilinear(numerator), point) / powerAt(denominator, point);
+        for (const AnalogSection& section : sections)
+            result /= powerGain(section, point);
+        return result;
+    }
+
+    std::span<const AxisPoint> points_;
+    std::vector<Real> errors_; // squared
+};
 
 } // namespace
 
 void multiplyBy(Polynomial& polynomial, std::span<const Real> factor)
 {
+    factor = factor.first(degreeOf(factor) + 1);
     polynomial.resize(polynomial.size() + factor.size() - 1);
     for (std::size_t k = polynomial.size(); k-- > 0;) {
         Real sum = 0;
@@ -84,26 +141,22 @@ void requireFinite(std::span<const Real> polynomial)
     require(std::all_of(polynomial.begin(), polynomial.end(), isFinite), Status::DesignFailed);
 }
 
-void roundTo(std::span<double> out, std::span<const Real> polynomial)
-{
-    requireFinite(polynomial);
-    std::transform(polynomial.begin(), polynomial.begin() + static_cast<std::ptrdiff_t>(out.size()), out.begin(),
-                   [](Real value) { return static_cast<double>(value); });
-}
-
-Coefficients roundedSections(std::span<const Biquad> biquads, std::size_t sectionOrder)
+Coefficients roundedSections(std::span<const AnalogSection> sections, std::size_t sectionOrder,
+                             std::span<const AxisPoint> points)
 {
     const std::size_t whole = sectionOrder / 2;
-    const std::size_t count = (biquads.size() + whole - 1) / whole;
+    const std::size_t count = (sections.size() + whole - 1) / whole;
     Coefficients result{std::vector<double>(count * sectionOrder), std::vector<double>(count * (sectionOrder + 1))};
     const std::span<double> reverse{result.reverse}, forward{result.forward};
+    Rounding rounding(points);
     std::size_t taken = 0;
-    for (std::size_t section = 0; section < count; ++section) {
-        const std::size_t size = section == 0 ? biquads.size() - (count - 1) * whole : whole;
-        roundSection(biquads.subspan(taken, size), reverse.subspan(section * sectionOrder, sectionOrder),
-                     forward.subspan(section * (sectionOrder + 1), sectionOrder + 1));
+    for (std::size_t k = 0; k < count; ++k) {
+        const std::size_t size = k == 0 ? sections.size() - (count - 1) * whole : whole;
+        rounding.round(sections.subspan(taken, size), reverse.subspan(k * sectionOrder, sectionOrder),
+                       forward.subspan(k * (sectionOrder + 1), sectionOrder + 1));
         taken += size;
     }
+    rounding.requireGain();
     return result;
 }
 

@@ -108,8 +108,13 @@ extern "C" {
 // fc, or both fl and fh: Butterworth -3.01 dB; Chebyshev and elliptic the end of the pass band (-ripple); inverse
 // Chebyshev the beginning of the stop band (-attenuation); Bessel the asymptote of the Butterworth filter of that
 // cut-off. The order is that of the low-pass prototype: band filters have twice as many poles.
-// An order above 2^20 is answered as "not enough memory", a filter that double precision cannot hold stably (a cut-off
-// below about 1e-8 fs) as a failed design.
+// They run on sections of 2nd order, the band filters of IirFilter on sections of 4th: the results of the two differ,
+// for edges about fs/4 in the last bits. An order above 2^20 is answered as "not enough memory". A design fails when
+// double precision cannot hold it: when its rounded sections are unstable, or when their gain is off by more than 1e-3
+// of the exact gain at the reference frequency (0; fs/2 for high-pass filters; both for band-stop, the centre for
+// band-pass filters) or at a cut-off. At the reference frequency the gain of low-pass and high-pass filters is exact
+// but for the last bits. From order 2 on, designs succeed with cut-offs down to about 3e-8 sqrt(order) fs, and up to as
+// far from fs/2.
 NIANLYS_API Status AALFunc21(const double* x, std::int64_t n, double fs, double fc, std::int32_t order,
                              double* y) noexcept; // Bw_LPF
 NIANLYS_API Status AALFunc20(const double* x, std::int64_t n, double fs, double fc, std::int32_t order,
@@ -194,7 +199,8 @@ NIANLYS_API Status AALFunc465(Complex* x, std::int64_t n, double fs, double fl, 
                               double attenuation, std::int32_t order, Complex* y) noexcept; // CxElp_BSF
 
 // IIR direct coefficients. type as in IirFilter; types 0 and 1 use fl only. na = nb = order + 1, for types 2 and 3
-// 2 order + 1; a[0] = 1.
+// 2 order + 1; a[0] = 1. A design fails when a coefficient is not finite; the coefficients are rounded one by one, so
+// filters of high order and low cut-off lose their gain, and their stability, long before.
 NIANLYS_API Status AALFunc19(std::int32_t type, std::int32_t order, double fs, double fl, double fh, double* a,
                              std::int32_t na, double* b, std::int32_t nb) noexcept; // Bw_Coef
 NIANLYS_API Status AALFunc13(std::int32_t type, std::int32_t order, double fs, double fl, double fh, double* a,
@@ -209,8 +215,8 @@ NIANLYS_API Status AALFunc62(std::int32_t type, std::int32_t order, double fs, d
 
 // IIR cascade coefficients into a filter of AllocIIRFilterPtr, whose type and order they follow; arms its reset flag.
 // The sections of 4th order of a band filter are sensitive to rounding: its response is within 1e-9 dB of the ideal one
-// for band edges about fs/4, 1e-5 dB at 1e-3 fs, 1e-2 dB at 1e-4 fs; below about 5e-5 fs the design may fail. The
-// one-call filters run on sections of 2nd order and keep within 1e-8 dB there.
+// for band edges about fs/4, 1e-5 dB at 1e-3 fs, 1e-2 dB at 1e-4 fs; below about 1e-4 fs the design may fail. The
+// one-call filters run on sections of 2nd order and keep within 1e-8 dB there. Limits of order and gain as above.
 NIANLYS_API Status AALFunc18(double fs, double fl, double fh, IirFilter* filter) noexcept;  // Bw_CascadeCoef
 NIANLYS_API Status AALFunc12(double fs, double fl, double fh, IirFilter* filter) noexcept;  // Bessel_CascadeCoef
 NIANLYS_API Status AALFunc471(double fs, double fl, double fh, IirFilter* filter) noexcept; // Bessel_CascadeCoefEx
@@ -398,8 +404,9 @@ NIANLYS_API Status AALFunc95(const double* x, std::int64_t n, double dt, double 
 NIANLYS_API Status AALFunc238(void* memory) noexcept; // FreeAnalysisMem
 NIANLYS_API Status FreeAnalysisMem(void* memory) noexcept;
 
-// Life of a cascade filter. Alloc returns null on a bad type, an order below 1, or no memory; the coefficients are zero
-// and the reset flag armed. Reset arms the flag. Free accepts null. The direct coefficients have the lengths of *_Coef.
+// Life of a cascade filter. Alloc returns null on a bad type, an order below 1 or above 2^20, or no memory; the
+// coefficients are zero and the reset flag armed. Reset arms the flag. Free accepts null. The direct coefficients have
+// the lengths of *_Coef; here and there, a degree above 2^14 is a failed design unless the coefficients beyond are 0.
 NIANLYS_API IirFilter* AllocIIRFilterPtr(std::int32_t type, std::int32_t order) noexcept;
 NIANLYS_API Status ResetIIRFilter(IirFilter* filter) noexcept;
 NIANLYS_API Status FreeIIRFilterPtr(IirFilter* filter) noexcept;

@@ -4,8 +4,8 @@
 // needs no comparison.
 #include "statistics/sort.h"
 
-#include "status.h"
 #include "buffer.h"
+#include "status.h"
 
 #include <algorithm>
 #include <array>

@@ -36,9 +36,11 @@ void splitHalves(ConstSplit spectrum, ConstSplit twiddles, std::size_t m, Split 
 
 } // namespace
 
-RealPlan::RealPlan(std::size_t n)
-    : n_(n), points_(n % 2 == 0 ? n / 2 : n), complex_(makeComplexPlan(points_)), twiddles_(makeBuffer(2 * (n / 4 + 1)))
+RealPlan::RealPlan(std::size_t n) : n_(n), points_(n % 2 == 0 ? n / 2 : n), complex_(makeComplexPlan(points_))
 {
+    if (n % 2 != 0)
+        return;
+    twiddles_ = makeBuffer(2 * (n / 4 + 1));
     const Roots root(n);
     for (std::size_t k = 0; k <= n / 4; ++k)
         twiddles().set(k, root(k));

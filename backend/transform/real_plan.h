@@ -26,7 +26,7 @@ private:
     std::size_t n_;
     std::size_t points_; // of the complex transform
     std::unique_ptr<const ComplexPlan> complex_;
-    Buffer<> twiddles_;
+    Buffer<> twiddles_; // of an even size
     Split twiddles() const { return {twiddles_.get(), twiddles_.get() + n_ / 4 + 1}; }
 };
 

@@ -13,7 +13,8 @@ namespace quordsp::backend {
 namespace {
 
 // Bins 0..n/2 of a signal's transform over n. Scaling comes first, so that squares do not overflow where the result
-// would not.
+// would not. The transform itself comes before: sums beyond 1.8e308 become infinite, also where their n-th part would
+// not be.
 class RealSpectrum {
 public:
     RealSpectrum(const double* x, std::size_t n)

@@ -1,11 +1,12 @@
 // Butterworth designs: coefficients, poles and responses against independent computations.
 #include "backend/support/iir.h"
-#include "data/backend/iir_vectors.h"
+#include "data/backend/iir_vectors.inc"
 #include "reference/response.h"
 
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <functional>
 
 namespace quordsp::test {
 namespace {
@@ -190,31 +191,122 @@ TEST(ButterworthCascade, EqualsTheDirectFormWhenMultipliedOut)
         }
 }
 
-TEST(ButterworthCascade, RefusesWhatDoubleCannotHoldStably)
+// Worked by hand: a Butterworth low-pass filter has gain 1 at 0, a high-pass filter at fs/2.
+TEST(ButterworthCascade, HasTheExactGainAtItsReferenceFrequency)
 {
+    for (int order : {1, 2, 5, 8, 20})
+        for (double fc : {1e-7, 3e-7, 1e-6, 1e-5}) {
+            EXPECT_NEAR(static_cast<double>(gainOf(sections(*cascade(LowPass, order, fc, 0)), 0)), 1, 4e-15);
+            EXPECT_NEAR(static_cast<double>(gainOf(sections(*cascade(HighPass, order, 0.5 - fc, 0)), 0.5L)), 1, 4e-14);
+        }
+}
+
+// The frequencies at which a filter is held against its definition; between and beyond them its gain falls off.
+std::vector<double> pointsOf(int type, double fl, double fh)
+{
+    switch (type) {
+    case LowPass:
+        return {0, fl};
+    case HighPass:
+        return {fl, 0.5};
+    case BandPass:
+        return {fl, fh};
+    default:
+        return {0, fl, fh, 0.5};
+    }
+}
+
+TEST(ButterworthCascade, IsRefusedRatherThanOffByMoreThanAThousandth)
+{
+    for (int type : kTypes) {
+        int designed = 0, refused = 0;
+        for (double fl = 1e-9; fl < 1e-3; fl *= 1.3)
+            for (int order : {1, 2, 3, 6, 12}) {
+                const Filter filter = cascade(type, order, fl, 2 * fl);
+                (filter ? designed : refused) += 1;
+                if (filter)
+                    for (double f : pointsOf(type, fl, 2 * fl))
+                        EXPECT_NEAR(static_cast<double>(gainOf(sections(*filter), f) /
+                                                        reference::butterworthGain(type, order, fl, 2 * fl, f)),
+                                    1, 1.001e-3)
+                            << "type " << type << " order " << order << " at " << fl;
+            }
+        EXPECT_GT(designed, 0);
+        EXPECT_GT(refused, 0);
+    }
+}
+
+TEST(ButterworthCascade, SucceedsDownToTheStatedCutoff)
+{
+    for (int order : {2, 3, 8, 20, 100})
+        for (double factor = 1; factor < 4; factor *= 1.01) {
+            const double fc = 3e-8 * std::sqrt(order) * factor;
+            EXPECT_TRUE(cascade(LowPass, order, fc, 0)) << order << ' ' << fc;
+            EXPECT_TRUE(cascade(HighPass, order, fc, 0)) << order << ' ' << fc;
+            EXPECT_TRUE(cascade(LowPass, order, 0.5 - fc, 0)) << order << ' ' << fc;
+            EXPECT_TRUE(cascade(HighPass, order, 0.5 - fc, 0)) << order << ' ' << fc;
+        }
+}
+
+TEST(ButterworthCascade, RefusesWhatDoubleCannotHold)
+{
+    EXPECT_FALSE(cascade(LowPass, 2, 2e-8, 0));
     EXPECT_FALSE(cascade(LowPass, 2, 1e-10, 0));
     EXPECT_FALSE(cascade(BandPass, 2, 1e-6, 2e-6));
     double x = 1, y = 7;
     EXPECT_EQ(butterworth(BandPass, &x, 1, 1, 1e-6, 2e-6, 2, &y), Status::Success);
+    EXPECT_EQ(butterworth(LowPass, &x, 1, 1, 2e-8, 0, 2, &y), Status::DesignFailed);
     EXPECT_EQ(butterworth(LowPass, &x, 1, INFINITY, 1, 0, 2, &y), Status::DesignFailed);
 }
 
 #if defined(__x86_64__)
 // Windows starts threads with 53 bits of precision in the unit that designs are worked out on.
-TEST(ButterworthCoef, HasTheSameBitsOnAThreadOfReducedPrecision)
+template <class Call>
+[[gnu::noinline]] auto atReducedPrecision(const Call& call)
 {
-    const DirectCoefficients wanted = direct(BandPass, 6, 0.01, 0.02);
-    std::uint16_t word;
+    std::uint16_t word, after;
     asm volatile("fnstcw %0" : "=m"(word));
     const auto reduced = static_cast<std::uint16_t>((word & ~0x0300) | 0x0200);
     asm volatile("fldcw %0" : : "m"(reduced) : "memory");
-    const DirectCoefficients actual = direct(BandPass, 6, 0.01, 0.02);
-    std::uint16_t after;
-    asm volatile("fnstcw %0" : "=m"(after));
+    const auto result = call();
+    asm volatile("fnstcw %0" : "=m"(after) : : "memory");
     asm volatile("fldcw %0" : : "m"(word) : "memory");
-    EXPECT_EQ(actual.a, wanted.a);
-    EXPECT_EQ(actual.b, wanted.b);
     EXPECT_EQ(after, reduced);
+    return result;
+}
+
+std::vector<double> joined(const DirectCoefficients& coefficients)
+{
+    std::vector<double> all = coefficients.a;
+    all.insert(all.end(), coefficients.b.begin(), coefficients.b.end());
+    return all;
+}
+
+std::vector<double> directOf(const backend::IirFilter& filter)
+{
+    std::vector<double> a(13), b(13);
+    EXPECT_EQ(backend::CascadeToDirectCoef(&filter, a.data(), 13, b.data(), 13), Status::Success);
+    return joined({Status::Success, a, b});
+}
+
+std::vector<double> coefficientsOf(const backend::IirFilter& filter)
+{
+    return joined({Status::Success,
+                   {filter.reverse, filter.reverse + filter.reverseCount},
+                   {filter.forward, filter.forward + filter.forwardCount}});
+}
+
+TEST(ButterworthDesign, HasTheSameBitsOnAThreadOfReducedPrecision)
+{
+    const Filter filter = cascade(BandPass, 6, 0.01, 0.02);
+    const std::function<std::vector<double>()> designs[] = {
+        [] { return joined(direct(BandPass, 6, 0.01, 0.02)); },
+        [] { return coefficientsOf(*cascade(BandPass, 6, 0.01, 0.02)); },
+        [] { return butterworth(BandPass, vectors::kSignal, 0.01, 0.02, 6); },
+        [&] { return directOf(*filter); },
+    };
+    for (const auto& design : designs)
+        EXPECT_EQ(atReducedPrecision(design), design());
 }
 #endif
 

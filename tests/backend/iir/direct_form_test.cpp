@@ -1,6 +1,6 @@
 // IIR filtering in direct form with the caller's state arrays.
 #include "backend/support/iir.h"
-#include "data/backend/iir_vectors.h"
+#include "data/backend/iir_vectors.inc"
 #include "reference/direct_form.h"
 
 #include <gmock/gmock.h>

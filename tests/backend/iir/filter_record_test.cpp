@@ -3,6 +3,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <functional>
 #include <limits>
@@ -46,6 +47,14 @@ TEST(IirFilterRecord, IsNotMadeOfABadTypeOrOrder)
     const int largest = std::numeric_limits<int>::max();
     for (auto [type, order] : {std::pair{-1, 2}, {4, 2}, {0, 0}, {0, -1}, {0, largest}, {3, largest}, {2, largest / 2}})
         EXPECT_FALSE(allocate(type, order)) << type << ' ' << order;
+}
+
+TEST(IirFilterRecord, IsMadeUpToTheLargestOrder)
+{
+    for (int type : kTypes) {
+        EXPECT_TRUE(allocate(type, 1 << 20));
+        EXPECT_FALSE(allocate(type, (1 << 20) + 1));
+    }
 }
 
 TEST(IirFilterRecord, MayBeFreedWhenItIsNull)
@@ -105,6 +114,87 @@ TEST(CascadeToDirectCoef, RefusesCoefficientsThatAreNotFinite)
     std::vector<double> a(3, 7.0), b(3, 7.0);
     EXPECT_EQ(backend::CascadeToDirectCoef(filter.get(), a.data(), 3, b.data(), 3), Status::DesignFailed);
     EXPECT_THAT(a, Each(7));
+}
+
+struct DirectForm {
+    Status status;
+    std::vector<double> a, b;
+};
+
+DirectForm directOf(const IirFilter& filter)
+{
+    const int count = filter.order * (filter.type < BandPass ? 1 : 2) + 1;
+    const std::vector<double> sevens(static_cast<std::size_t>(count), 7.0);
+    DirectForm form{{}, sevens, sevens};
+    form.status = backend::CascadeToDirectCoef(&filter, form.a.data(), count, form.b.data(), count);
+    return form;
+}
+
+TEST(CascadeToDirectCoef, IsOneAndZerosBeforeAnyDesign)
+{
+    for (int type : kTypes)
+        for (int order : {1, 2, 5, 1 << 20}) {
+            const auto [status, a, b] = directOf(*allocate(type, order));
+            EXPECT_EQ(status, Status::Success);
+            EXPECT_EQ(a.front(), 1);
+            EXPECT_EQ(std::ranges::count(a, 0), std::ssize(a) - 1);
+            EXPECT_EQ(std::ranges::count(b, 0), std::ssize(b));
+        }
+}
+
+TEST(CascadeToDirectCoef, PadsAFilterOfLowerDegreeWithZeros)
+{
+    const Filter filter = allocate(LowPass, 4);
+    filter->reverse[0] = -0.5;
+    filter->forward[0] = 2;
+    filter->forward[3] = 3;
+    filter->forward[4] = 1;
+    const auto [status, a, b] = directOf(*filter);
+    EXPECT_EQ(status, Status::Success);
+    EXPECT_THAT(a, testing::ElementsAre(1, -0.5, 0, 0, 0));
+    EXPECT_THAT(b, testing::ElementsAre(6, 2, 0, 0, 0));
+}
+
+// Sections 1 + 0.4 x^2 and 1 - 0.4 x^2 in turn, whose products stay within the range of double up to high degrees.
+void fillEvenly(double* coefficients, int count, int sectionSize, int first)
+{
+    for (int k = 0; k * sectionSize < count; ++k) {
+        double* const section = coefficients + k * sectionSize;
+        section[0] = first;
+        section[first + 1] = k % 2 == 0 ? 0.4 : -0.4;
+    }
+}
+
+Filter withPoles(int order)
+{
+    Filter filter = allocate(LowPass, order);
+    fillEvenly(filter->reverse, filter->reverseCount, 2, 0);
+    return filter;
+}
+
+Filter withZeros(int order)
+{
+    Filter filter = allocate(HighPass, order);
+    fillEvenly(filter->forward, filter->forwardCount, 3, 1);
+    return filter;
+}
+
+TEST(CascadeToDirectCoef, TakesADegreeOf16384)
+{
+    const auto [status, a, b] = directOf(*withPoles(1 << 14));
+    EXPECT_EQ(status, Status::Success);
+    EXPECT_NEAR(a[4], -0.16 * 4096, 1e-10); // of (1 - 0.16 x^4)^4096
+}
+
+// The work grows with the square of the degree: these would take an hour each.
+TEST(CascadeToDirectCoef, RefusesSoonADegreeBeyondThatOfDesigns)
+{
+    for (const auto make : {withPoles, withZeros}) {
+        const auto [status, a, b] = directOf(*make(1 << 20));
+        EXPECT_EQ(status, Status::DesignFailed);
+        EXPECT_EQ(a.front(), 7);
+        EXPECT_EQ(b.back(), 7);
+    }
 }
 
 TEST(FreeAnalysisMem, AcceptsNullUnderBothItsNames)

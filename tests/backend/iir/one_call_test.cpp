@@ -1,6 +1,6 @@
 // The one-call Butterworth filters on signals.
 #include "backend/support/iir.h"
-#include "data/backend/iir_vectors.h"
+#include "data/backend/iir_vectors.inc"
 #include "reference/direct_form.h"
 
 #include <gmock/gmock.h>

@@ -67,5 +67,16 @@ TEST(TransformOutOfMemory, IsSurvivedByAmpPhaseSpectrum)
     }
 }
 
+// Both run a complex transform of 15 points; only the even size has a step after it.
+TEST(TransformOutOfMemory, HasFewerOccasionsInARealTransformOfOddSize)
+{
+    const auto allocations = [](std::int64_t n) {
+        Array re(30, 1), im(30);
+        return failEveryAllocation([&] { return AALFunc147(re.data(), im.data(), n); }, [&] { return re[0] == 1; });
+    };
+    EXPECT_GT(allocations(15), 0);
+    EXPECT_LT(allocations(15), allocations(30));
+}
+
 } // namespace
 } // namespace quordsp::backend

@@ -1,6 +1,8 @@
-#!/usr/bin/env python3
-"""Writes iir_vectors.h: Butterworth filters and filtered signals by SciPy 1.10, poles by mpmath with 50 digits."""
-import pathlib
+#!/usr/bin/python3
+"""Makes iir_vectors.inc: Butterworth filters and filtered signals by SciPy 1.10, poles by mpmath with 50 digits.
+
+Usage: make_iir_vectors.py > iir_vectors.inc
+"""
 import textwrap
 
 import mpmath as mp
@@ -38,7 +40,7 @@ def poles(kind, order, f):
 
 def write(out):
     x = test_signal(96)
-    out.append("// Written by make_iir_vectors.py.\n// clang-format off\n#pragma once\n\n#include <vector>\n")
+    out.append("// Made by make_iir_vectors.py.\n// clang-format off\n#pragma once\n\n#include <vector>\n")
     out.append("namespace quordsp::vectors\n{\n")
     out.append("inline const std::vector<double> kSignal" + array(x) + ";\n")
 
@@ -93,4 +95,4 @@ def wrapped(parts):
 
 lines = []
 write(lines)
-pathlib.Path(__file__).with_name("iir_vectors.h").write_text("".join(wrapped(lines)))
+print("".join(wrapped(lines)), end="")

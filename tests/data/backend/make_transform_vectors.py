@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """Makes transform_vectors.inc: inputs and results of NumPy's and SciPy's transforms and spectra, as exact doubles.
 
-Usage: transform_vectors.py > transform_vectors.inc
+Usage: make_transform_vectors.py > transform_vectors.inc
 """
 import numpy as np
 import scipy.fft
@@ -42,7 +42,7 @@ def spectrum_case(name, n, dt, rng):
 
 
 rng = np.random.default_rng(20240229)
-print(f"// Made by transform_vectors.py with NumPy {np.__version__} and SciPy {scipy.__version__}.")
+print(f"// Made by make_transform_vectors.py with NumPy {np.__version__} and SciPy {scipy.__version__}.")
 complex_case("kComplex12", 12, rng)
 complex_case("kComplex67", 67, rng)
 real_case("kReal15", 15, rng)
