@@ -28,11 +28,6 @@ char findSeparator(std::string_view line)
     return ',';
 }
 
-bool isNumber(std::string_view field)
-{
-    return parseNumber(field).has_value();
-}
-
 std::vector<std::string> copy(std::span<const std::string_view> fields)
 {
     return {fields.begin(), fields.end()};
@@ -43,9 +38,9 @@ std::vector<std::string> copy(std::span<const std::string_view> fields)
 bool namesColumns(const std::vector<std::string>& first, const std::vector<std::string>& second)
 {
     for (std::size_t i = 0; i < first.size(); ++i)
-        if (!isNumber(first[i]) && !first[i].empty() && (i >= second.size() || isNumber(second[i])))
+        if (!looksLikeNumber(first[i]) && !first[i].empty() && (i >= second.size() || looksLikeNumber(second[i])))
             return true;
-    return std::ranges::none_of(first, isNumber);
+    return std::ranges::none_of(first, looksLikeNumber);
 }
 
 std::string unescaped(std::string name)
@@ -104,13 +99,13 @@ std::vector<std::vector<double>> CsvDocument::columns(std::span<const std::size_
 
 double CsvDocument::number(const CsvRows& row, std::size_t column) const
 {
+    const std::string_view field = column < row.fields().size() ? row.fields()[column] : std::string_view{};
+    if (const auto value = parseNumber(field))
+        return *value;
     const std::string where = "column '" + names_[column] + "'";
     if (column >= row.fields().size())
         fail(row.line(), where + " is missing: the line has " + std::to_string(row.fields().size()) + " fields",
              "every line needs the same number of fields");
-    const std::string_view field = row.fields()[column];
-    if (const auto value = parseNumber(field))
-        return *value;
     const bool decimalComma = field.find(',') != std::string_view::npos;
     fail(row.line(), where + ": '" + shortened(field) + "' is not a number",
          decimalComma ? "write numbers with a decimal point" : "correct the field, or choose another --column");

@@ -41,10 +41,14 @@ std::optional<std::size_t> findColumn(const std::string& wanted, const std::vect
     return number && *number <= names.size() ? std::optional(*number - 1) : std::nullopt;
 }
 
+// Without a choice it is the first column, or the one that follows it.
 std::size_t chooseColumn(const InputChoice& choice, const std::vector<std::string>& names, std::size_t first)
 {
+    if (choice.column.empty() && first >= names.size())
+        badInput(choice, "there is no column besides time",
+                 "name a file with samples, or '" + names[0] + "' as --column");
     if (choice.column.empty())
-        return std::min(first, names.size() - 1);
+        return first;
     if (const auto found = findColumn(choice.column, names))
         return *found;
     badInput(choice, "there is no column '" + choice.column + "'",
@@ -53,6 +57,8 @@ std::size_t chooseColumn(const InputChoice& choice, const std::vector<std::strin
 
 void setTimes(Series& series, const InputChoice& choice, std::vector<double> times, double unit)
 {
+    if (times.size() < 2)
+        badInput(choice, "one row tells no sampling rate", "give it with --rate");
     for (double& time : times)
         time *= unit;
     const auto rate = samplingRate(times);

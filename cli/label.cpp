@@ -65,6 +65,22 @@ std::string columnName(std::string_view quantity, std::string_view unit)
     return unit.empty() ? std::string(quantity) : std::string(quantity) + "_" + std::string(unit);
 }
 
+std::string squared(std::string_view unit)
+{
+    const auto isPlain = [](char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '%'; };
+    if (unit.empty())
+        return {};
+    return std::ranges::all_of(unit, isPlain) ? std::string(unit) + "^2" : "(" + std::string(unit) + ")^2";
+}
+
+std::string printable(std::string_view text)
+{
+    std::string shown(text);
+    const auto isControl = [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; };
+    std::ranges::replace_if(shown, isControl, '?');
+    return shown;
+}
+
 std::string withUnit(const std::string& number, std::string_view unit)
 {
     return unit.empty() ? number : number + " " + std::string(unit);

@@ -20,6 +20,12 @@ Label parseLabel(std::string_view columnName);
 // "input" and "g" give "input_g"; without a unit the name stands alone.
 std::string columnName(std::string_view quantity, std::string_view unit);
 
+// The unit of a square: "g^2", "(m/s2)^2".
+std::string squared(std::string_view unit);
+
+// For a terminal, which obeys control characters: they become question marks.
+std::string printable(std::string_view text);
+
 // A number with its unit: "10.1 g", or "10.1" when there is none.
 std::string withUnit(const std::string& number, std::string_view unit);
 

@@ -54,6 +54,14 @@ std::optional<double> parseNumber(std::string_view text)
     return value;
 }
 
+bool looksLikeNumber(std::string_view text)
+{
+    const std::string_view digits = withoutPlus(text);
+    double value = 0;
+    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
+    return error != std::errc::invalid_argument && end == digits.data() + digits.size();
+}
+
 std::optional<std::size_t> parseCount(std::string_view text)
 {
     std::size_t value = 0;

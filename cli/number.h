@@ -17,6 +17,9 @@ std::string rounded(double value, int digits = 6);
 // accepted.
 std::optional<double> parseNumber(std::string_view text);
 
+// True for the whole text of any number, also of one that parseNumber() refuses: nan, inf, and what is out of range.
+bool looksLikeNumber(std::string_view text);
+
 // The whole text as a count, 1 or more.
 std::optional<std::size_t> parseCount(std::string_view text);
 

@@ -22,7 +22,9 @@ CLI::Validator numberAbove(double limit, const std::string& kind)
 CLI::Option* addPath(CLI::App& app, const std::string& name, fs::path& path, const std::string& help)
 {
     const auto set = [&path](const std::string& text) { path = pathFromUtf8(text); };
-    return app.add_option_function<std::string>(name, set, help);
+    return app.add_option_function<std::string>(name, set, help)
+        ->check(CLI::Validator(
+            [](const std::string& text) { return text.empty() ? "the file name is empty" : std::string{}; }, ""));
 }
 
 bool sameFile(const fs::path& one, const fs::path& other)

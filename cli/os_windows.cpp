@@ -15,23 +15,38 @@ namespace {
 constexpr const char* kRunTimeModules[] = {"cvirte.dll", "instrsup.dll", "cvi_lvrt.dll"};
 constexpr const char* kInstallerKey = "SOFTWARE\\National Instruments\\Common\\Installer";
 constexpr const char* kSharedFolderValue = "NISHAREDDIR64";
+constexpr std::size_t kPathSize = 1024; // of the library's buffers: what is longer it does not try
 
 std::string pathOf(HMODULE module)
 {
-    std::array<char, 1024> path;
+    std::array<char, kPathSize> path;
     const DWORD length = GetModuleFileNameA(module, path.data(), static_cast<DWORD>(path.size()));
     return length < path.size() ? std::string(path.data(), length) : "";
 }
 
+// The bytes of the value but the last, as the library takes them: of any type, nothing expanded, and whether the last
+// one is a NUL or not.
 std::optional<std::string> sharedFolder()
 {
-    std::array<char, 1024> text;
-    DWORD size = static_cast<DWORD>(text.size());
+    HKEY key = nullptr;
+    if (RegOpenKeyExA(HKEY_LOCAL_MACHINE, kInstallerKey, 0, KEY_READ, &key) != ERROR_SUCCESS)
+        return std::nullopt;
+    std::array<char, kPathSize> text;
+    auto size = static_cast<DWORD>(text.size());
     const LSTATUS status =
-        RegGetValueA(HKEY_LOCAL_MACHINE, kInstallerKey, kSharedFolderValue, RRF_RT_ANY, nullptr, text.data(), &size);
+        RegQueryValueExA(key, kSharedFolderValue, nullptr, nullptr, reinterpret_cast<BYTE*>(text.data()), &size);
+    RegCloseKey(key);
     if (status != ERROR_SUCCESS || size == 0)
         return std::nullopt;
-    return std::string(text.data(), size - 1); // without the final NUL
+    return std::string(text.data(), size - 1);
+}
+
+// The system's loader reads a path up to its first NUL, which a value may have inside.
+BackendPlace place(const std::string& where, const std::string& path)
+{
+    if (path.size() >= kPathSize)
+        return {where, {}, "the path is too long"};
+    return {where, path.c_str(), {}};
 }
 
 BackendPlace besideRunTime()
@@ -39,9 +54,8 @@ BackendPlace besideRunTime()
     for (const char* const fileName : kRunTimeModules) {
         const std::string module = loadedModulePath(fileName);
         if (!module.empty())
-            return {std::string("beside the loaded ") + fileName,
-                    module.substr(0, module.size() - std::string(fileName).size()) + kBackendFile,
-                    {}};
+            return place(std::string("beside the loaded ") + fileName,
+                         module.substr(0, module.size() - std::string(fileName).size()) + kBackendFile);
     }
     return {"beside a loaded run-time module",
             {},
@@ -53,11 +67,11 @@ void addSharedFolder(std::vector<BackendPlace>& places)
     const std::string where = std::string("HKLM\\") + kInstallerKey + ", value " + kSharedFolderValue;
     const auto folder = sharedFolder();
     if (!folder) {
-        places.push_back({where, {}, "the value is not set"});
+        places.push_back({where, {}, "the value is not set or cannot be read"});
         return;
     }
     for (const char* const separator : {"", "\\"})
-        places.push_back({where, *folder + separator + "Analysis\\" + kBackendFile, {}});
+        places.push_back(place(where, *folder + separator + "Analysis\\" + kBackendFile));
 }
 
 std::string message(DWORD code)

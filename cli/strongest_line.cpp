@@ -5,12 +5,12 @@
 namespace quordsp::cli {
 
 std::optional<StrongestLine> findStrongestLine(std::span<const double> samples, double rate,
-                                               std::span<const double> levels)
+                                               std::span<const double> levels, double floor)
 {
     if (levels.size() < 2)
         return std::nullopt;
     const auto highest = std::max_element(levels.begin() + 1, levels.end());
-    if (!(*highest > 0))
+    if (!(*highest > floor))
         return std::nullopt;
     const auto bin = static_cast<std::size_t>(highest - levels.begin());
     const double frequency = static_cast<double>(bin) * rate / static_cast<double>(samples.size());

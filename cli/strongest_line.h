@@ -13,9 +13,9 @@ struct StrongestLine {
     std::optional<Sine> sine; // fitted to the samples around that frequency; nothing when no sine settles there
 };
 
-// The levels are those of the single-sided spectrum of the samples. Nothing when there is no bin besides DC or all are
-// empty.
+// The levels are those of the single-sided spectrum of the samples. Nothing when there is no bin besides DC or none is
+// above the floor, the level of rounding.
 std::optional<StrongestLine> findStrongestLine(std::span<const double> samples, double rate,
-                                               std::span<const double> levels);
+                                               std::span<const double> levels, double floor = 0);
 
 } // namespace quordsp::cli

@@ -30,7 +30,9 @@ std::optional<double> secondsOfName(const std::string& name)
 {
     const Label label = parseLabel(name);
     const auto* unit = std::ranges::find(kTimeUnits, std::string_view(label.unit), &TimeUnit::name);
-    const bool isTime = std::ranges::find(kTimeNames, lowerCase(label.quantity)) != std::end(kTimeNames);
+    // A capital T is a temperature or a flux density.
+    const bool isTime =
+        label.quantity != "T" && std::ranges::find(kTimeNames, lowerCase(label.quantity)) != std::end(kTimeNames);
     if (!isTime || unit == std::end(kTimeUnits))
         return std::nullopt;
     return unit->seconds;

@@ -1,6 +1,7 @@
 #!/bin/sh
 # Shows the staged Windows build at work through Wine: which backend it finds, a band-pass around the line of a shaker
-# recording, and the spectra before and after. Results go to out/demo. Usage: demo.sh, after dist/windows has been staged.
+# recording, and the spectra before and after. Results go to out/demo.
+# Usage: demo.sh, after dist/windows has been staged.
 set -eu
 cd "$(dirname "$0")/.."
 program=dist/windows/bin/quordsp.exe

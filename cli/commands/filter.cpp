@@ -99,7 +99,7 @@ void run(const Options& options)
                  {columnName("input", unit), [&](std::size_t i) { return series.samples[i]; }},
                  {columnName("filtered", unit), [&](std::size_t i) { return out[i]; }}},
                 out.size(), [&] { return plotOf(series, out, options); });
-    std::cout << out.size() << " samples of " << series.label.axis() << " at " << rounded(series.rate)
+    std::cout << out.size() << " samples of " << printable(series.label.axis()) << " at " << rounded(series.rate)
               << " Hz: " << describe(options) << '\n';
     printWritten(options.output);
 }

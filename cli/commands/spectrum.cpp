@@ -1,5 +1,8 @@
 // quordsp spectrum: the single-sided spectrum of one column, and the sine behind its strongest line.
+#include <algorithm>
+#include <cmath>
 #include <iostream>
+#include <limits>
 #include <memory>
 #include <numbers>
 #include <optional>
@@ -35,25 +38,32 @@ struct Spectrum {
     std::optional<StrongestLine> line;
 };
 
+// What rounding leaves in the bins of a constant signal stays below it.
+double roundingLevel(const SpectrumKind& kind, std::size_t count, double offsetLevel)
+{
+    const double relative = static_cast<double>(count) * std::numeric_limits<double>::epsilon();
+    return offsetLevel * (kind.squared ? relative * relative : relative);
+}
+
 Spectrum spectrumOf(const Series& series, const SpectrumKind& kind)
 {
     const std::size_t count = series.samples.size();
     std::vector<double> levels(binCount(count));
     check(kind.run(series.samples, 1 / series.rate, levels.data()), std::string(kind.name) + " spectrum");
-    auto line = findStrongestLine(series.samples, series.rate, levels);
+    auto line = findStrongestLine(series.samples, series.rate, levels, roundingLevel(kind, count, levels[0]));
     return {kind, std::move(levels), series.rate / static_cast<double>(count), line};
 }
 
 std::string levelUnit(const Series& series, const SpectrumKind& kind)
 {
-    return series.label.unit + (kind.squared && !series.label.unit.empty() ? "2" : "");
+    return kind.squared ? squared(series.label.unit) : series.label.unit;
 }
 
-// "x amplitude, rms (g)"
+// "amplitude, rms (g)"
 Label levelLabel(const Series& series, const SpectrumKind& kind)
 {
     const std::string quantity = kind.squared ? "power" : "amplitude, " + std::string(kind.name);
-    return {quantity, series.label.unit + (kind.squared && !series.label.unit.empty() ? "^2" : "")};
+    return {quantity, levelUnit(series, kind)};
 }
 
 std::string amplitudeText(double peak, const std::string& unit)
@@ -62,10 +72,18 @@ std::string amplitudeText(double peak, const std::string& unit)
            " rms";
 }
 
+const char* whyNoLine(const std::vector<double>& levels)
+{
+    if (levels.size() < 2)
+        return "the signal is too short";
+    const bool finite = std::ranges::all_of(levels, [](double level) { return std::isfinite(level); });
+    return finite ? "the signal is constant" : "the levels are not finite";
+}
+
 void printLine(const Spectrum& spectrum, const std::string& unit)
 {
     if (!spectrum.line) {
-        std::cout << "strongest line: none, the signal is constant\n";
+        std::cout << "strongest line: none, " << whyNoLine(spectrum.levels) << '\n';
         return;
     }
     const StrongestLine& line = *spectrum.line;
@@ -99,7 +117,7 @@ Plot plotOf(const Series& series, const Spectrum& spectrum, const Options& optio
             .yLabel = levelLabel(series, spectrum.kind).axis(),
             .xStep = spectrum.spacing,
             .logarithmic = true,
-            .curves = {{"", spectrum.levels}},
+            .curves = {{series.label.quantity, spectrum.levels}},
             .callout = calloutOf(spectrum, series.label.unit)};
 }
 
@@ -114,9 +132,9 @@ void run(const Options& options)
                 {{"frequency_Hz", [&](std::size_t i) { return static_cast<double>(i) * series.rate / count; }},
                  {name, [&](std::size_t i) { return spectrum.levels[i]; }}},
                 spectrum.levels.size(), [&] { return plotOf(series, spectrum, options); });
-    std::cout << series.samples.size() << " samples of " << series.label.axis() << " at " << rounded(series.rate)
-              << " Hz\n";
-    printLine(spectrum, series.label.unit);
+    std::cout << series.samples.size() << " samples of " << printable(series.label.axis()) << " at "
+              << rounded(series.rate) << " Hz\n";
+    printLine(spectrum, printable(series.label.unit));
     std::cout << "bin spacing:    " << rounded(spectrum.spacing) << " Hz\n";
     printWritten(options.output);
 }

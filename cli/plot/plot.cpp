@@ -21,7 +21,12 @@ constexpr double kBottom = kHeight - 68;
 constexpr int kXIntervals = 10;
 constexpr int kYIntervals = 8;
 constexpr int kMostDecades = 8;
-constexpr double kLetter = 6.6; // mean width of a letter of the legend
+constexpr double kLetter = 6.6;      // mean width of a letter of the labels
+constexpr double kTitleLetter = 9.9; // and of the title
+constexpr double kBoldLetter = 7.2;  // and of a callout
+constexpr double kLegendText = 180;  // at most
+constexpr double kLegendLine = 22;
+constexpr double kGap = 20;
 
 constexpr const char* kFont = R"(font-family="'Segoe UI', 'Helvetica Neue', Arial, 'Liberation Sans', sans-serif" )"
                               R"(font-size="13" fill="#3c4650")";
@@ -42,9 +47,10 @@ struct Scale {
     }
     double operator()(double value) const
     {
-        const double low = position(range.low);
-        const double share = (position(value) - low) / (position(range.high) - low);
-        return start + std::clamp(share, 0.0, 1.0) * (end - start);
+        // By halves: the extent of the range may exceed every number.
+        const double low = position(range.low) / 2;
+        const double share = (position(value) / 2 - low) / (position(range.high) / 2 - low);
+        return start + (share > 0 ? std::min(share, 1.0) : 0) * (end - start);
     }
 };
 
@@ -71,7 +77,7 @@ Scale xScale(const Plot& plot)
     for (const Curve& curve : plot.curves)
         longest = std::max(longest, curve.samples.size());
     const double intervals = longest > 1 ? static_cast<double>(longest - 1) : 1;
-    return {{plot.xStart, plot.xStart + intervals * plot.xStep}, kLeft, kRight, false};
+    return {withExtent({plot.xStart, plot.xStart + intervals * plot.xStep}), kLeft, kRight, false};
 }
 
 Scale yScale(const Plot& plot)
@@ -79,6 +85,12 @@ Scale yScale(const Plot& plot)
     const Range extent = extentOf(plot);
     const Range range = plot.logarithmic ? widenToDecades(extent, kMostDecades) : widenToSteps(extent, kYIntervals);
     return {range, kBottom, kTop, plot.logarithmic};
+}
+
+// Markup of a text that fits into a width.
+std::string fitted(const std::string& text, double width, double letter = kLetter)
+{
+    return escapeXml(shortened(text, static_cast<std::size_t>(std::max(width, 0.0) / letter)));
 }
 
 std::string withMinusSign(std::string text)
@@ -136,11 +148,11 @@ void drawLabels(Picture& picture)
 {
     const Plot& plot = picture.plot;
     Svg& svg = picture.svg;
-    svg.text({kLeft, 36}, escapeXml(plot.title), kTitleFont);
-    svg.text({kLeft, 60}, escapeXml(plot.subtitle), kMuted);
-    svg.text({(kLeft + kRight) / 2, kHeight - 20}, escapeXml(plot.xLabel), R"(text-anchor="middle")");
+    svg.text({kLeft, 36}, fitted(plot.title, kRight - kLeft, kTitleLetter), kTitleFont);
+    svg.text({(kLeft + kRight) / 2, kHeight - 20}, fitted(plot.xLabel, kRight - kLeft), R"(text-anchor="middle")");
     // Upright, beside the middle of the axis.
-    svg.text({0, 0}, escapeXml(plot.yLabel), R"_(text-anchor="middle" transform="translate(26 278) rotate(-90)")_");
+    svg.text({0, 0}, fitted(plot.yLabel, kBottom - kTop),
+             R"_(text-anchor="middle" transform="translate(26 278) rotate(-90)")_");
 }
 
 const char* colour(const Plot& plot, const Curve& curve)
@@ -154,19 +166,18 @@ std::string strokeAttributes(const char* strokeColour, const char* width)
            strokeColour + '"';
 }
 
-// From the right end to the left.
+// From the right end to the left; the subtitle has the rest of the row.
 void drawLegend(Picture& picture)
 {
     const Plot& plot = picture.plot;
-    if (plot.curves.size() < 2)
-        return;
     double right = kRight;
     for (auto curve = plot.curves.rbegin(); curve != plot.curves.rend(); ++curve) {
-        picture.svg.text({right, 60}, escapeXml(curve->name), R"(text-anchor="end")");
-        right -= kLetter * static_cast<double>(curve->name.size()) + 8;
-        picture.svg.line({right - 22, 55.5}, {right, 55.5}, strokeAttributes(colour(plot, *curve), "2.5"));
-        right -= 22 + 20;
+        picture.svg.text({right, 60}, fitted(curve->name, kLegendText), R"(text-anchor="end")");
+        right -= std::min(kLetter * static_cast<double>(curve->name.size()), kLegendText) + 8;
+        picture.svg.line({right - kLegendLine, 55.5}, {right, 55.5}, strokeAttributes(colour(plot, *curve), "2.5"));
+        right -= kLegendLine + kGap;
     }
+    picture.svg.text({kLeft, 60}, fitted(plot.subtitle, right - kLeft), kMuted);
 }
 
 // A sample that is not finite leaves a gap.
@@ -201,12 +212,13 @@ void drawCallout(Picture& picture, const Callout& callout)
 {
     const Point at{picture.x(callout.x), picture.y(callout.y)};
     const bool toTheLeft = at.x > (kLeft + kRight) / 2;
+    const double space = toTheLeft ? at.x - 11 - kLeft : kRight - at.x - 11;
     const Point text{at.x + (toTheLeft ? -11 : 11), std::max(at.y + 4.5, kTop + 14)};
     picture.svg.circle(at, 4, R"(fill="#ffffff" stroke="#c2410c" stroke-width="2")");
     picture.svg.open(toTheLeft ? R"(font-weight="600" text-anchor="end")" : R"(font-weight="600")");
     for (const char* const paint :
          {R"(stroke="#ffffff" stroke-width="4" stroke-linejoin="round")", R"(fill="#9a3412")"})
-        picture.svg.text(text, escapeXml(callout.text), paint);
+        picture.svg.text(text, fitted(callout.text, space, kBoldLetter), paint);
     picture.svg.close();
 }
 

@@ -8,7 +8,7 @@
 namespace quordsp::cli {
 
 struct Curve {
-    std::string name; // for the legend, which is drawn when there is more than one curve
+    std::string name; // for the legend
     std::span<const double> samples;
 };
 
@@ -31,6 +31,7 @@ struct Plot {
     std::optional<Callout> callout = std::nullopt;
 };
 
+// Texts that are longer than their place are shortened.
 std::string drawPlot(const Plot& plot);
 
 } // namespace quordsp::cli

@@ -1,5 +1,6 @@
 #include "plot/svg.h"
 
+#include <algorithm>
 #include <charconv>
 #include <utility>
 
@@ -40,6 +41,37 @@ std::size_t utf8Length(std::string_view text)
     return overlong || noCharacter ? 0 : length;
 }
 
+// Of the character at the front: a byte that is not UTF-8 counts as one.
+std::size_t characterLength(std::string_view text)
+{
+    return std::max<std::size_t>(byteAt(text, 0) < 0x80 ? 1 : utf8Length(text), 1);
+}
+
+// In letters.
+std::size_t breadth(std::string_view text)
+{
+    std::size_t letters = 0;
+    for (std::size_t length = 0; !text.empty(); text.remove_prefix(length)) {
+        length = characterLength(text);
+        letters += length > 2 ? 2 : 1;
+    }
+    return letters;
+}
+
+// The front of a text that is at most so many letters broad.
+std::string_view front(std::string_view text, std::size_t letters)
+{
+    std::size_t end = 0;
+    while (end < text.size()) {
+        const std::string_view next = text.substr(end, characterLength(text.substr(end)));
+        if (breadth(next) > letters)
+            break;
+        letters -= breadth(next);
+        end += next.size();
+    }
+    return text.substr(0, end);
+}
+
 std::string escapedAscii(char c)
 {
     switch (c) {
@@ -73,6 +105,19 @@ std::string escapeXml(std::string_view text)
         text.remove_prefix(length == 0 ? 1 : length);
     }
     return escaped;
+}
+
+std::string shortened(std::string_view text, std::size_t letters)
+{
+    const std::size_t all = breadth(text);
+    if (all <= letters)
+        return std::string(text);
+    const std::size_t kept = letters > 3 ? letters - 3 : 0;
+    const std::size_t atTheEnd = kept / 2;
+    std::string_view end = text.substr(front(text, all - atTheEnd).size());
+    if (breadth(end) > atTheEnd)
+        end.remove_prefix(characterLength(end));
+    return std::string(front(text, kept - atTheEnd)) + "..." + std::string(end);
 }
 
 Svg::Svg(double width, double height, std::string_view title)

@@ -16,6 +16,10 @@ struct Point {
 // signs are in; control characters become blanks.
 std::string escapeXml(std::string_view text);
 
+// A text at most so many letters broad: a longer one has "..." in its middle, since its end tells the unit. A letter of
+// the scripts with broad ones counts twice.
+std::string shortened(std::string_view text, std::size_t letters);
+
 class Svg {
 public:
     Svg(double width, double height, std::string_view title);

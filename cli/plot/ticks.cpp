@@ -14,6 +14,9 @@ constexpr double kSlack = 1e-9; // of a step: a tick at the very end of the rang
 constexpr double kLargestPlain = 1e6;
 constexpr double kSmallestPlainStep = 1e-5;
 constexpr int kPlainDecades = 4; // 0.0001 to 10000 are written out
+constexpr int kLowestDecade = -307;
+constexpr double kLeast = std::numeric_limits<double>::min();
+constexpr double kMost = std::numeric_limits<double>::max();
 
 std::string fixed(double value, int decimals)
 {
@@ -30,7 +33,7 @@ int exponentOf(double value)
 // Read as text: not every system's pow() is exact here.
 double powerOfTen(int exponent)
 {
-    return parseNumber("1e" + std::to_string(exponent)).value_or(std::numeric_limits<double>::min());
+    return parseNumber("1e" + std::to_string(exponent)).value_or(exponent < 0 ? kLeast : kMost);
 }
 
 Tick plainTick(double value, double step)
@@ -46,24 +49,33 @@ Tick scaledTick(double value, int exponent, double step)
     return {value, rounded(value / powerOfTen(exponent), std::clamp(exponent - exponentOf(step) + 1, 1, 15)), exponent};
 }
 
-// A range without extent is drawn in the middle of one that has some.
-Range withExtent(Range range)
+Range withFiniteEnds(Range range)
 {
-    const bool proper = std::isfinite(range.low) && std::isfinite(range.high) && range.low <= range.high;
-    if (!proper)
-        return {0, 1};
-    const double least = std::max(std::abs(range.low), std::abs(range.high)) * 1e-9;
-    if (range.high - range.low > least)
-        return range;
-    const double margin = range.high == 0 ? 1 : std::abs(range.high) / 10;
-    return {range.low - margin, range.high + margin};
+    return {std::max(range.low, -kMost), std::min(range.high, kMost)};
 }
 
 } // namespace
 
+Range withExtent(Range range)
+{
+    const bool proper = range.low <= range.high && range.low <= kMost && range.high >= -kMost;
+    if (!proper)
+        return {0, 1};
+    const auto [low, high] = withFiniteEnds(range);
+    const double least = std::max(std::max(std::abs(low), std::abs(high)) * 1e-9, kLeast);
+    if (high - low > least)
+        return {low, high};
+    const double margin = high == 0 ? 1 : std::max(std::abs(high) / 10, kLeast);
+    return withFiniteEnds({low - margin, high + margin});
+}
+
 double roundStep(Range range, int mostIntervals)
 {
-    const double least = (range.high - range.low) / mostIntervals;
+    // Not the difference first: it may exceed every number.
+    const double least = range.high / mostIntervals - range.low / mostIntervals;
+    const bool divisible = std::isfinite(least) && least > 0;
+    if (!divisible)
+        return 1;
     const double decade = powerOfTen(exponentOf(least));
     for (const double factor : {1.0, 2.0, 5.0})
         if (factor * decade >= least * (1 - kSlack))
@@ -75,7 +87,8 @@ Range widenToSteps(Range range, int mostIntervals)
 {
     const Range extended = withExtent(range);
     const double step = roundStep(extended, mostIntervals);
-    return {std::floor(extended.low / step + kSlack) * step, std::ceil(extended.high / step - kSlack) * step};
+    return withFiniteEnds(
+        {std::floor(extended.low / step + kSlack) * step, std::ceil(extended.high / step - kSlack) * step});
 }
 
 std::vector<Tick> linearTicks(Range range, int mostIntervals)
@@ -87,7 +100,7 @@ std::vector<Tick> linearTicks(Range range, int mostIntervals)
     std::vector<Tick> ticks;
     for (int i = 0; i <= mostIntervals; ++i) {
         const double value = first + i == 0 ? 0 : (first + i) * step; // no negative zero
-        if (value <= range.high + kSlack * step)
+        if (first + i <= range.high / step + kSlack)
             ticks.push_back(plain ? plainTick(value, step) : scaledTick(value, exponentOf(largest), step));
     }
     return ticks;
@@ -98,9 +111,10 @@ Range widenToDecades(Range range, int mostDecades)
     const bool proper = range.high > 0 && std::isfinite(range.high);
     if (!proper)
         return {0.1, 1};
-    const int top = static_cast<int>(std::ceil(std::log10(range.high) - kSlack));
+    const int top = std::max(static_cast<int>(std::ceil(std::log10(range.high) - kSlack)), kLowestDecade + 1);
     const int bottom = range.low > 0 ? exponentOf(range.low) : top - mostDecades;
-    return {powerOfTen(std::clamp(bottom, top - mostDecades, top - 1)), powerOfTen(top)};
+    const int lowest = std::max(top - mostDecades, kLowestDecade);
+    return {powerOfTen(std::clamp(bottom, lowest, top - 1)), powerOfTen(top)};
 }
 
 std::vector<Tick> decadeTicks(Range range)

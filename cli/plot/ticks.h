@@ -21,6 +21,10 @@ struct Tick {
 // The round step, 1, 2 or 5 times a power of ten, that leaves at most so many intervals in the range.
 double roundStep(Range range, int mostIntervals);
 
+// The range with finite ends and a distance between them that can be divided; a range without extent lies in the
+// middle then.
+Range withExtent(Range range);
+
 // The range widened to whole steps; one without extent or without finite ends gets some.
 Range widenToSteps(Range range, int mostIntervals);
 

@@ -129,6 +129,17 @@ TEST(Csv, RejectsNanAndInfinityAsSamples)
     EXPECT_EQ(failure("x\n1\n-inf\n"), "f.csv:3: column 'x': '-inf' is not a number");
 }
 
+TEST(Csv, TakesAFirstRowOfNumbersThatNoSampleCanBeAsData)
+{
+    for (const std::string field : {"nan", "inf", "-inf", "1e999", "1e-999"})
+        EXPECT_EQ(failure(field + "\n1\n2\n"), "f.csv:1: column 'column 1': '" + field + "' is not a number");
+}
+
+TEST(Csv, FindsNamesAboveARowWithNan)
+{
+    EXPECT_EQ(failure("x,y\nnan,1\n"), "f.csv:2: column 'x': 'nan' is not a number");
+}
+
 TEST(Csv, AdvisesADecimalPointWhereAFieldHasAComma)
 {
     EXPECT_EQ(failureOf([] { column("a;b\n1;2\n1,5;2\n"); }).advice(), "write numbers with a decimal point");

@@ -46,6 +46,10 @@ run() {
 
 says() { grep -qF -- "$1" ../stdout || fail "$what: the output does not say '$1'"; }
 complains() { grep -qF -- "$1" ../stderr || fail "$what: the error does not say '$1'"; }
+# The path of the backend that is in use has that folder and file name in it.
+backend_is_in() {
+    grep -qE "^backend  .*[/\\\\]$1[/\\\\](lib)?nianlys\.(so|dll)" ../stdout || fail "$what: the backend is not in $1"
+}
 is_there() { [ -s "$1" ] || fail "$what: $1 is missing or empty"; }
 # Nothing but the named files is in the output folder, which is empty afterwards.
 only_left() {
@@ -70,7 +74,7 @@ done
 
 # The backend, when it is there and when it is not.
 run 0 info
-says "$(basename "$backend")"
+backend_is_in "$(basename "$backend")"
 says "filters  4 of 4"
 says "spectra  3 of 3"
 program_kept=$program program=$alone path_kept=${WINEPATH:-}
@@ -88,7 +92,7 @@ only_left ""
 cp "$backend"/*nianlys* "$(dirname "$alone")" 2>../stderr
 [ -n "$emulator" ] || cp "$backend"/*nianlys* "$work/alone/lib"
 run 0 info
-says "alone"
+backend_is_in "alone[/\\\\](bin|lib)"
 program=$program_kept
 if [ -n "$emulator" ]; then export WINEPATH="$path_kept"; else export LD_LIBRARY_PATH="$backend"; fi
 
@@ -135,7 +139,13 @@ only_left "$name out_$name"
 # Usage.
 run 1
 complains "--help"
+complains "a command is missing"
+complains "the commands are filter, spectrum, info"
 run 1 nonsense
+complains "there is no command 'nonsense'"
+complains "the commands are filter, spectrum, info"
+run 0 --help
+says "[OPTIONS] COMMAND"
 run 1 filter "$shaker" --rate 5000 -o f.csv
 complains "--response"
 run 1 $filter_x --response bandpass --order 2 --cutoff 90 -o f.csv
@@ -145,6 +155,8 @@ run 1 $filter_x --response roundpass --order 2 --cutoff 9 -o f.csv
 run 1 spectrum "$shaker" -o s.csv
 complains "--rate"
 run 1 spectrum "$shaker" --rate -5 -o s.csv
+run 1 spectrum "$shaker" --rate 5000 -o ""
+complains "the file name is empty"
 run 1 spectrum "$shaker" --rate 5000 --power --amplitude peak -o s.csv
 run 1 spectrum "$shaker" --rate 5000 --from 100 -o s.csv
 complains "from 0 s to 7.9998 s"
@@ -164,7 +176,24 @@ only_left ""
 printf 'x\n1\nabc\n' >bad.csv
 run 2 spectrum bad.csv --rate 1 -o s.csv
 complains "bad.csv:3: column 'x': 'abc' is not a number"
-only_left "bad.csv"
+printf 'x\n1\n\033[2J\n' >bad.csv
+run 2 spectrum bad.csv --rate 1 -o s.csv
+complains "bad.csv:3: column 'x': '?[2J' is not a number"
+printf 'x_m/s2\n0.1\n' >short.csv
+run 0 spectrum short.csv --rate 1 -o s.csv
+says "strongest line: none, the signal is too short"
+awk 'BEGIN { print "x_m/s2"; for (i = 0; i < 100; ++i) print 0.1 }' >constant.csv
+run 0 spectrum constant.csv --rate 1 --power -o p.csv --plot p.svg
+says "strongest line: none, the signal is constant"
+[ "$(head -n 1 p.csv)" = "frequency_Hz,power_(m/s2)^2" ] || fail "$what: the names of the columns"
+grep -qF '>power ((m/s2)^2)<' p.svg || fail "$what: the unit of the axis"
+# A plot at the ends of the range of numbers.
+printf 'x\n1.7e308\n-1.7e308\n1e308\n' >wide.csv
+run 0 filter wide.csv --rate 1 --response lowpass --order 2 --cutoff 0.2 -o w.csv --plot w.svg
+printf 'x\n5e-324\n5e-324\n' >tiny.csv
+run 0 filter tiny.csv --rate 1 --response lowpass --order 2 --cutoff 0.2 -o w.csv --plot w.svg
+run 0 filter constant.csv --rate 1e-308 --response lowpass --order 2 --cutoff 2e-309 -o w.csv --plot w.svg
+only_left "bad.csv constant.csv p.csv p.svg s.csv short.csv tiny.csv w.csv w.svg wide.csv"
 head -c 1000 "$bell" >cut.wav
 run 2 spectrum cut.wav -o s.csv
 complains "announces 264600 bytes, but 956 are there"

@@ -74,6 +74,20 @@ TEST_F(Input, ListsTheColumnsWhenTheChosenOneIsNotThere)
     EXPECT_THAT(failure.advice(), HasSubstr("'x_g', 'y_g'"));
 }
 
+TEST_F(Input, RefusesAFileOfTimesAloneUnlessTheyAreAskedFor)
+{
+    const Failure failure = failureOf([&] { read("time_s\n0\n1\n"); });
+    EXPECT_EQ(failure.code(), ExitCode::Input);
+    EXPECT_THAT(failure.what(), HasSubstr("there is no column besides time"));
+    EXPECT_THAT(messageOf([&] { read("time_s\n0\n1\n", choice("", 5)); }), HasSubstr("no column besides time"));
+    EXPECT_THAT(read("time_s\n0\n1\n", choice("time_s")).samples, ElementsAre(0, 1));
+}
+
+TEST_F(Input, TellsThatOneRowHasNoRate)
+{
+    EXPECT_THAT(messageOf([&] { read("t,x\n0,1\n"); }), HasSubstr("one row tells no sampling rate"));
+}
+
 TEST_F(Input, AsksForTheRateWhenThereIsNoTimeColumn)
 {
     EXPECT_EQ(failureOf([&] { read("x\n1\n2\n"); }).code(), ExitCode::Usage);

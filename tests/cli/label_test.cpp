@@ -47,6 +47,20 @@ TEST(Label, NamesAColumnWithAndWithoutAUnit)
     EXPECT_EQ(columnName("filtered", ""), "filtered");
 }
 
+TEST(Label, PutsAUnitOfSeveralPartsInBracketsBeforeItIsSquared)
+{
+    EXPECT_EQ(squared("g"), "g^2");
+    EXPECT_EQ(squared("\xC2\xB5V"), "(\xC2\xB5V)^2");
+    EXPECT_EQ(squared("m/s2"), "(m/s2)^2");
+    EXPECT_EQ(squared("m/s"), "(m/s)^2");
+    EXPECT_EQ(squared(""), "");
+}
+
+TEST(Label, ShowsNoControlCharacters)
+{
+    EXPECT_EQ(printable("a\x1B[2J\r\x7F\n\xC3\xA4"), "a?[2J???\xC3\xA4");
+}
+
 TEST(Label, PutsAUnitBehindANumber)
 {
     EXPECT_EQ(withUnit("10.1", "g"), "10.1 g");

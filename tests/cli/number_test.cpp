@@ -64,5 +64,13 @@ TEST(Number, CountsFromOne)
         EXPECT_EQ(parseCount(text), std::nullopt) << text;
 }
 
+TEST(Number, LooksLikeOneAlsoWhenNoSampleCanBeIt)
+{
+    for (const char* const text : {"1", "-2.5e3", "+4", "nan", "inf", "-inf", "1e999", "1e-999"})
+        EXPECT_TRUE(looksLikeNumber(text)) << text;
+    for (const char* const text : {"", "x", "1x", "nano", "info", "12:30", "+"})
+        EXPECT_FALSE(looksLikeNumber(text)) << text;
+}
+
 } // namespace
 } // namespace quordsp::cli

@@ -59,12 +59,49 @@ TEST(Plot, IsLabelled)
         EXPECT_THAT(svg, HasSubstr(label));
 }
 
-TEST(Plot, HasALegendForSeveralCurvesOnly)
+TEST(Plot, HasALegendForOneCurveToo)
 {
     const std::vector<double> samples{3, 4};
     Plot plot = twoCurves(samples, samples);
     plot.curves.pop_back();
-    EXPECT_THAT(drawPlot(plot), Not(HasSubstr(">input<")));
+    EXPECT_THAT(drawPlot(plot), HasSubstr(">input<"));
+}
+
+TEST(Plot, ShortensTextsToTheirSpace)
+{
+    const std::vector<double> samples{3, 4};
+    const std::string longText(1000, 'x');
+    Plot plot = twoCurves(samples, samples);
+    plot.title = plot.subtitle = plot.xLabel = plot.yLabel = longText;
+    plot.curves[0].name = longText;
+    plot.callout = Callout{1, 4, longText};
+    const std::string svg = drawPlot(plot);
+    EXPECT_EQ(countOf(svg, "x...x"), 7u);               // the callout stands twice
+    EXPECT_EQ(countOf(svg, std::string(130, 'x')), 7u); // of <title>, which is not drawn
+}
+
+TEST(Plot, LeavesTheSubtitleNoSpaceBesideManyCurves)
+{
+    const std::vector<double> samples{3, 4};
+    Plot plot = twoCurves(samples, samples);
+    plot.curves.assign(10, {std::string(1000, 'x'), samples});
+    EXPECT_THAT(drawPlot(plot), Not(HasSubstr(">file<")));
+}
+
+TEST(Shortened, KeepsTheUnitAtTheEnd)
+{
+    EXPECT_EQ(shortened("acceleration at the bearing (m/s2)", 23), "accelerati...ing (m/s2)");
+}
+
+TEST(Shortened, CutsBetweenCharacters)
+{
+    EXPECT_EQ(shortened("abcdef", 6), "abcdef");
+    EXPECT_EQ(shortened("abcdefg", 6), "ab...g");
+    EXPECT_EQ(shortened("\xC3\xA4\xC3\xB6\xC3\xBC\xC3\x9F", 4), "\xC3\xA4\xC3\xB6\xC3\xBC\xC3\x9F");
+    EXPECT_EQ(shortened("\xC3\xA4\xC3\xB6\xC3\xBC\xC3\x9F!", 4), "\xC3\xA4...");
+    // As broad as two letters each.
+    EXPECT_EQ(shortened("\xE4\xB8\xAD\xE4\xB8\xAD\xE4\xB8\xAD\xE4\xB8\xAD", 7), "\xE4\xB8\xAD...\xE4\xB8\xAD");
+    EXPECT_EQ(shortened("\xE4\xB8\xAD\xE4\xB8\xAD\xE4\xB8\xAD", 5), "...");
 }
 
 TEST(Plot, RefersToNothingOutsideItself)
@@ -87,15 +124,32 @@ TEST(Plot, LeavesAGapForSamplesThatAreNotFinite)
 TEST(Plot, SurvivesCurvesWithoutExtentOrWithoutSamples)
 {
     for (const bool logarithmic : {false, true})
-        for (const std::vector<double>& samples :
-             {std::vector<double>{}, {0}, {7}, {0, 0}, {INFINITY, NAN}, {-1e300, 1e300}}) {
-            Plot plot = twoCurves(samples, samples);
-            plot.logarithmic = logarithmic;
-            const std::string svg = drawPlot(plot);
-            EXPECT_THAT(svg, Not(HasSubstr("nan")));
-            EXPECT_THAT(svg, Not(HasSubstr("inf")));
-            EXPECT_THAT(svg, HasSubstr("</svg>"));
-        }
+        for (const std::vector<double>& samples : {std::vector<double>{},
+                                                   {0},
+                                                   {7},
+                                                   {0, 0},
+                                                   {INFINITY, NAN},
+                                                   {-1e300, 1e300},
+                                                   {1.7e308, -1.7e308, 1e308},
+                                                   {5e-324, 5e-324},
+                                                   {0, 5e-324},
+                                                   {1, 2, 3}})
+            for (const double xStep : {1.0, 1e308, HUGE_VAL, 5e-324}) {
+                Plot plot = twoCurves(samples, samples);
+                plot.logarithmic = logarithmic;
+                plot.xStep = xStep;
+                const std::string svg = drawPlot(plot);
+                EXPECT_THAT(svg, Not(HasSubstr("nan")));
+                EXPECT_THAT(svg, Not(HasSubstr("inf")));
+                EXPECT_THAT(svg, HasSubstr("</svg>"));
+            }
+}
+
+// The plot area is 840 pixels wide and 388 high.
+TEST(Plot, SpansAnExtentThatIsNotFinite)
+{
+    const std::vector<double> samples{1.7e308, -1.7e308, 0};
+    EXPECT_THAT(drawPlot(twoCurves(samples, samples)), HasSubstr("points=\"88,94.5 508,461.5 928,278 \""));
 }
 
 // The plot area reaches from 472 up to 84 pixels: three decades, so that one lies 388 / 3 pixels above the other.

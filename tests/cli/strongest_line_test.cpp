@@ -131,5 +131,13 @@ TEST(StrongestLine, IsNoneInAConstantOrVeryShortSignal)
     EXPECT_FALSE(findStrongestLine(std::vector<double>(2), 1, std::vector<double>(1)));
 }
 
+TEST(StrongestLine, IsNoneAtTheLevelOfRounding)
+{
+    const auto samples = sine(100, 7, 1e-15, 0, 50);
+    const auto levels = naiveSpectrum(samples);
+    EXPECT_TRUE(findStrongestLine(samples, 100, levels));
+    EXPECT_FALSE(findStrongestLine(samples, 100, levels, 1e-12));
+}
+
 } // namespace
 } // namespace quordsp::cli

@@ -38,10 +38,19 @@ TEST(Ticks, ArePulledApartIntoMantissaAndExponentFarFromOne)
     EXPECT_THAT(texts(linearTicks({0, 3e-7}, 3)), ElementsAre("0", "1^-7", "2^-7", "3^-7"));
 }
 
-TEST(Ticks, AreNeverMoreThanAskedFor)
+TEST(Ticks, AreNeverMoreThanAskedForAndNoneIsMissing)
 {
-    for (double high = 1e-6; high < 1e9; high *= 1.37)
-        EXPECT_LE(linearTicks({-high / 3, high}, 8).size(), 9u) << high;
+    for (double high = 1e-6; high < 1e9; high *= 1.37) {
+        const Range range{-high / 3, high};
+        const double step = roundStep(range, 8);
+        const auto ticks = linearTicks(range, 8);
+        ASSERT_LE(ticks.size(), 9u) << high;
+        ASSERT_FALSE(ticks.empty()) << high;
+        EXPECT_LT(ticks.front().value - range.low, step) << high;
+        EXPECT_LT(range.high - ticks.back().value, step) << high;
+        for (std::size_t i = 1; i < ticks.size(); ++i)
+            EXPECT_NEAR(ticks[i].value - ticks[i - 1].value, step, 1e-9 * step) << high;
+    }
 }
 
 TEST(Ticks, WidenARangeToWholeSteps)
@@ -68,6 +77,33 @@ TEST(Ticks, SurviveARangeThatIsNotFinite)
     EXPECT_EQ(range.high, 1);
 }
 
+TEST(Ticks, SurviveARangeThatNoStepDivides)
+{
+    const double infinity = std::numeric_limits<double>::infinity();
+    EXPECT_EQ(roundStep({0, 0}, 8), 1);
+    EXPECT_EQ(roundStep({-infinity, infinity}, 8), 1);
+}
+
+// From the lowest number to the highest the distance itself is not finite.
+TEST(Ticks, DivideTheWidestRange)
+{
+    constexpr double kMost = std::numeric_limits<double>::max();
+    const Range range = widenToSteps({-1.7e308, 1.7e308}, 8);
+    EXPECT_EQ(range.low, -kMost);
+    EXPECT_EQ(range.high, kMost);
+    EXPECT_THAT(texts(linearTicks(range, 8)),
+                ElementsAre("-1.5^308", "-1^308", "-0.5^308", "0", "0.5^308", "1^308", "1.5^308"));
+}
+
+TEST(Ticks, GiveExtentToTheSmallestNumber)
+{
+    for (const Range narrow : {Range{5e-324, 5e-324}, Range{0, 5e-324}}) {
+        const Range range = widenToSteps(narrow, 8);
+        EXPECT_LT(range.low, 0);
+        EXPECT_GT(range.high, 5e-324);
+    }
+}
+
 TEST(Ticks, OfDecadesArePowersOfTen)
 {
     EXPECT_THAT(texts(decadeTicks({0.01, 100})), ElementsAre("0.01", "0.1", "1", "10", "100"));
@@ -80,6 +116,16 @@ TEST(Ticks, WidenARangeToDecadesButNotTooMany)
     EXPECT_DOUBLE_EQ(widenToDecades({0.02, 7}, 8).high, 10);
     EXPECT_DOUBLE_EQ(widenToDecades({1e-18, 7}, 8).low, 1e-7);
     EXPECT_DOUBLE_EQ(widenToDecades({10, 10}, 8).low, 1);
+}
+
+TEST(Ticks, StayInOrderForDecadesAtTheEndsOfTheNumbers)
+{
+    for (const double value : {1.7e308, 1e308, 1e-307, 1e-308, 5e-324}) {
+        const Range range = widenToDecades({value, value}, 8);
+        EXPECT_GT(range.low, 0) << value;
+        EXPECT_LT(range.low, range.high) << value;
+        EXPECT_FALSE(decadeTicks(range).empty()) << value;
+    }
 }
 
 TEST(Ticks, FindDecadesForARangeWithoutPositiveValues)

@@ -17,13 +17,13 @@ TEST(TimeColumn, IsFoundByItsNameAndUnit)
 
 TEST(TimeColumn, IsInSecondsWhenItsNameHasNoUnit)
 {
-    for (const char* const name : {"t", "T", "time", "Time (s)", "time_s", "timestamp", "seconds"})
+    for (const char* const name : {"t", "time", "TIME", "Time (s)", "time_s", "timestamp", "seconds"})
         EXPECT_EQ(findTimeColumn({name}).value().seconds, 1) << name;
 }
 
 TEST(TimeColumn, IsNotFoundInOtherNames)
 {
-    EXPECT_FALSE(findTimeColumn({"x_s", "timer", "time_g", "column 1", ""}));
+    EXPECT_FALSE(findTimeColumn({"x_s", "timer", "time_g", "T", "column 1", ""}));
 }
 
 std::vector<double> grid(double start, double rate, int count, double roundTo)
