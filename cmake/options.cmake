@@ -25,7 +25,8 @@ if(WIN32)
         LINKER:-Xlink=-pdbsourcepath:/QuorDSP_DAQ)
 endif()
 if(QUORDSP_SANITIZE)
-    # The library and the backend know each other's functions by shape, not by type: that check is the compiler's, in tests/abi.
+    # The library and the backend know each other's functions by shape, not by type: that check is the compiler's, in
+    # tests/abi.
     add_compile_options(-fsanitize=${QUORDSP_SANITIZE} -fno-sanitize=function -fno-sanitize-recover=all
         -fno-omit-frame-pointer)
     add_link_options(-fsanitize=${QUORDSP_SANITIZE})

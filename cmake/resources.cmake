@@ -1,5 +1,5 @@
-# quordsp_add_resources(target description): gives a Windows module its version and a minimal manifest, which makes it a module
-# with an activation context of its own.
+# quordsp_add_resources(target description): gives a Windows module its version and a minimal manifest, which makes it
+# a module with an activation context of its own.
 if(WIN32)
     enable_language(RC)
 endif()

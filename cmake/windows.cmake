@@ -1,4 +1,5 @@
-# Cross-compiles for 64-bit Windows: clang and lld, with the run-time of mingw-w64 linked statically; tests run through Wine.
+# Cross-compiles for 64-bit Windows: clang and lld, with the run-time of mingw-w64 linked statically; tests run through
+# Wine.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 set(CMAKE_C_COMPILER clang-19)

@@ -85,7 +85,7 @@ def entry_problems(export):
 
 
 def table_problems(exports):
-    """The numbers in the header against those in the library's table, whose stems are the names without their prefix."""
+    """The numbers in the header against those in the library's table; its stems are the names without their prefix."""
     bound = dict(re.findall(r"^ENTRY\((\w+),\s*(\w+)", TABLE.read_text(encoding="ascii"), re.MULTILINE))
     bound["Acceleration"] = bound.pop("Integrate")  # the one entry that is named for what it does, not for its export
     documented = {export.name.removeprefix("QuorDSP_"): entry for export in exports for entry in export.entries}

@@ -8,9 +8,11 @@ import argparse
 import re
 import subprocess
 import sys
+from pathlib import Path
 
 SECURITY = ("DYNAMIC_BASE", "HIGH_ENTROPY_VA", "NX_COMPAT")
 RESOURCES = ("MANIFEST (ID 24)", "VERSIONINFO (ID 16)")
+MANIFEST = Path(__file__).parent.parent / "cmake" / "module.manifest"
 
 
 def output(*command):
@@ -41,6 +43,8 @@ def windows_problems(module, imports):
     problems += [f"flag missing: {flag}" for flag in SECURITY if f"IMAGE_DLL_CHARACTERISTICS_{flag} " not in headers]
     resources = output("llvm-readobj-19", "--coff-resources", module)
     problems += [f"resource missing: {resource}" for resource in RESOURCES if f"Type: {resource}" not in resources]
+    if MANIFEST.read_bytes() not in Path(module).read_bytes():
+        problems.append(f"the manifest is not {MANIFEST.name}")
     return problems
 
 

@@ -1,4 +1,6 @@
-"""Adds up the tests that the suites left in a folder and prints the closing line; fails unless all ran and passed.
+"""Adds up the tests that the suites left in a folder and prints the closing line.
+
+Fails unless some tests ran and none failed.
 
 usage: count_tests.py FOLDER [failed check ...]
 """

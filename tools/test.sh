@@ -1,5 +1,5 @@
 #!/bin/sh
-# Every check, or those that are named: style header windows linux asan-ubsan tsan install reproducible.
+# Every check, or those that are named: style header linux asan-ubsan tsan windows reproducible.
 # Ends with one line that counts the tests of all of them.
 set -u
 root=$(cd "$(dirname "$0")/.." && pwd)
@@ -16,9 +16,9 @@ suite() {
         tail -n 40 "$results/$1.log"
         return 1
     }
-    ctest --preset "$1" -j "$jobs" --output-junit "$root/$results/$1.xml" --quiet >>"$results/$1.log" 2>&1 && return
-    sed -n '/tests passed/,$p' "$results/$1.log"
-    ctest --preset "$1" --rerun-failed --output-on-failure 2>&1 | tail -n 60
+    ctest --preset "$1" -j "$jobs" --output-junit "$root/$results/$1.xml" --output-log "$results/$1.tests.log" \
+        >/dev/null 2>&1 && return
+    grep -v -e ' Start ' -e ' Passed ' "$results/$1.tests.log" | tail -n 100
     return 1
 }
 

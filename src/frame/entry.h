@@ -64,8 +64,9 @@ private:
     static Binding lookUp() noexcept
     {
         const Binding binding = bindEntry(kName);
-        // Relaxed: concurrent first calls store the same address. A failure is kept as null, and so looked up again.
-        bound_.store(reinterpret_cast<Function*>(binding.address), std::memory_order_relaxed);
+        // Relaxed: concurrent first calls store the same address. A failure is not kept, and so looked up again.
+        if (binding.address)
+            bound_.store(reinterpret_cast<Function*>(binding.address), std::memory_order_relaxed);
         return binding;
     }
 

@@ -17,7 +17,8 @@ Module loadModule(const char* path) noexcept;
 // A module that the process has already loaded, by its file name; takes no reference to it.
 Module loadedModule(const char* fileName) noexcept;
 
-// The module's full path with its terminating NUL; its length, or 0 when it cannot be read or does not fit whole.
+// The module's full path with its terminating NUL; its length, or 0 when it cannot be read, or path.size() when it does
+// not fit.
 std::size_t modulePath(Module module, std::span<char> path) noexcept;
 
 // An exported function by name. A null module means what the system makes of it: the program's own exports.

@@ -1,4 +1,7 @@
 #include <algorithm>
+#include <array>
+#include <climits>
+#include <cstdio>
 #include <cstring>
 
 #include <dlfcn.h>
@@ -30,14 +33,16 @@ Module loadedModule(const char* fileName) noexcept
 
 std::size_t modulePath(Module module, std::span<char> path) noexcept
 {
+    // The name that the module was loaded by may be relative to a folder that is the working folder no longer; its
+    // origin is the two together.
+    std::array<char, 2 * PATH_MAX> folder{};
     const link_map* map = nullptr;
-    if (dlinfo(module, RTLD_DI_LINKMAP, static_cast<void*>(&map)) != 0)
+    if (dlinfo(module, RTLD_DI_LINKMAP, static_cast<void*>(&map)) != 0 ||
+        dlinfo(module, RTLD_DI_ORIGIN, folder.data()) != 0)
         return 0;
-    const std::size_t length = std::strlen(map->l_name);
-    if (length >= path.size())
-        return 0;
-    std::copy_n(map->l_name, length + 1, path.data());
-    return length;
+    const char* const slash = std::strrchr(map->l_name, '/');
+    const int length = std::snprintf(path.data(), path.size(), "%s/%s", folder.data(), slash ? slash + 1 : map->l_name);
+    return std::min(static_cast<std::size_t>(std::max(length, 0)), path.size());
 }
 
 Symbol symbol(Module module, const char* name) noexcept

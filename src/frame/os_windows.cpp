@@ -119,8 +119,7 @@ Module loadedModule(const char* fileName) noexcept
 
 std::size_t modulePath(Module module, std::span<char> path) noexcept
 {
-    const DWORD length = GetModuleFileNameA(native(module), path.data(), static_cast<DWORD>(path.size()));
-    return length < path.size() ? length : 0; // a full buffer holds a path that was cut
+    return GetModuleFileNameA(native(module), path.data(), static_cast<DWORD>(path.size()));
 }
 
 Symbol symbol(Module module, const char* name) noexcept

@@ -10,9 +10,15 @@ namespace quordsp {
 
 class PathBuffer {
 public:
-    // Where a path is read into, and how many characters of it count.
+    // Where a path is read into, and how many characters of it count; false when there is no room for that many and a
+    // NUL.
     std::span<char> storage() noexcept { return text_; }
-    void setLength(std::size_t length) noexcept { length_ = length; }
+    bool setLength(std::size_t length) noexcept
+    {
+        const bool fits = length < text_.size();
+        length_ = fits ? length : 0;
+        return fits;
+    }
 
     // Drops that many characters at the end; false when there are not so many.
     bool cut(std::size_t count) noexcept

@@ -13,10 +13,9 @@ os::Module loadBesideThisLibrary() noexcept
     const os::Module self = os::loadedModule(kThisLibrary);
     PathBuffer path;
     const std::size_t length = self ? os::modulePath(self, path.storage()) : 0;
-    if (length == 0)
+    if (length == 0 || !path.setLength(length))
         return nullptr;
-    path.setLength(length);
-    const std::size_t folder = path.view().rfind('/') + 1; // none: the working folder
+    const std::size_t folder = path.view().rfind('/') + 1;
     return path.cut(length - folder) && path.append(kBackendFile) ? os::loadModule(path.text()) : nullptr;
 }
 

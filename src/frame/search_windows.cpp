@@ -30,8 +30,8 @@ os::Module loadBesideRunTime() noexcept
         const std::size_t length = module ? os::modulePath(module, path.storage()) : 0;
         if (length == 0)
             continue;
-        path.setLength(length);
-        const bool built = path.cut(std::string_view{fileName}.size()) && path.append(kBackendFile);
+        const bool built =
+            path.setLength(length) && path.cut(std::string_view{fileName}.size()) && path.append(kBackendFile);
         return built ? os::loadModule(path.text()) : nullptr;
     }
     return nullptr;
@@ -41,9 +41,8 @@ os::Module loadFromSharedFolder() noexcept
 {
     PathBuffer folder;
     const std::size_t size = os::machineValue(kInstallerKey, kSharedFolderValue, folder.storage());
-    if (size == 0)
+    if (size == 0 || !folder.setLength(size - 1)) // the last byte is the value's NUL
         return nullptr;
-    folder.setLength(size - 1); // the last byte is the value's NUL
     // The value may or may not end with a backslash: first as it stands, then with one.
     for (const std::string_view separator : {"", "\\"}) {
         PathBuffer path = folder;

@@ -121,16 +121,6 @@ TEST_F(ForwardingExports, LeaveWhatTheBackendWritesInTheCallersMemory)
     EXPECT_EQ(minIndex, -3);
 }
 
-// The fake spoils the record that it receives.
-TEST_F(ForwardingExports, LeaveTheCallersNarrowBandRecordAsItIs)
-{
-    loadBackend("backend");
-    const QuorDSP_FIRFilter before = arguments().record();
-    QuorDSP_FIRFilter record = before;
-    EXPORT(QuorDSP_FIRNarrowBandFilter)(nullptr, 1, record, nullptr);
-    EXPECT_EQ(std::memcmp(&record, &before, sizeof record), 0);
-}
-
 TEST_F(ForwardingExports, DoNotReadTheResultsOfPeakDetectionForThemselves)
 {
     loadBackend("backend");

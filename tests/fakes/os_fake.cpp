@@ -1,6 +1,7 @@
 #include "fakes/os_fake.h"
 
 #include <algorithm>
+#include <utility>
 
 // The program's image, as the linker lays it out.
 extern const char __executable_start;
@@ -55,8 +56,9 @@ Module loadedModule(const char* fileName) noexcept
 std::size_t modulePath(Module module, std::span<char> path) noexcept
 {
     const auto& known = fake::system->loaded.at(fake::fileOf(module));
-    const std::size_t size = known ? fake::copyWhole(*known, known->size() + 1, path) : 0;
-    return size == 0 ? 0 : size - 1;
+    if (!known)
+        return 0;
+    return fake::copyWhole(*known, known->size() + 1, path) ? known->size() : path.size();
 }
 
 Symbol symbol(Module module, const char* name) noexcept
@@ -78,7 +80,7 @@ std::size_t machineValue(const char* key, const char* name, std::span<char> byte
 ProcessLock::ProcessLock(const char* nameFormat) noexcept
 {
     fake::log(std::string{"lock "} + nameFormat);
-    fake::system->whileWaiting();
+    std::exchange(fake::system->whileWaiting, [] {})();
     if (fake::system->lockable)
         mutex_ = fake::system;
 }

@@ -18,7 +18,7 @@ struct System {
     std::map<std::string, std::map<std::string, os::Symbol>> exports; // file name: name and address
     std::optional<std::string> machineValue;                          // its bytes
     bool lockable = true;
-    std::function<void()> whileWaiting = [] {}; // what happens before the lock is had
+    std::function<void()> whileWaiting = [] {}; // what happens, once, before the lock is had
 };
 
 // The one that the test under way talks to.

@@ -67,6 +67,24 @@ TEST(Entry, AnswersThatTheEntryIsMissingAndLooksItUpAgain)
     EXPECT_EQ(callScale<"AALFunc2">(), 7);
 }
 
+TEST(Entry, StaysBoundWhenALookUpThatBeganEarlierFails)
+{
+    fake::FakeSystem system;
+    Status meanwhile = QUORDSP_SUCCESS;
+    system.lockable = false;
+    system.whileWaiting = [&] {
+        system.lockable = true;
+        exportScale(system, "AALFunc7");
+        meanwhile = callScale<"AALFunc7">();
+        system.lockable = false;
+    };
+    EXPECT_EQ(callScale<"AALFunc7">(), QUORDSP_BACKEND_NOT_FOUND);
+    EXPECT_EQ(meanwhile, 7);
+    system.calls.clear();
+    EXPECT_EQ(callScale<"AALFunc7">(), 7);
+    EXPECT_THAT(system.calls, ElementsAre());
+}
+
 TEST(Entry, PassesArgumentsAndStatusUnchangedAndLooksUpOnce)
 {
     fake::FakeSystem system;

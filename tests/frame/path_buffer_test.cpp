@@ -21,6 +21,14 @@ TEST(PathBuffer, RefusesWhatDoesNotFitAndStaysAsItWas)
     EXPECT_STREQ(path.text(), "ab");
 }
 
+TEST(PathBuffer, TakesNoLengthThatLeavesNoRoomForItsNul)
+{
+    PathBuffer path;
+    EXPECT_FALSE(path.setLength(1024));
+    EXPECT_EQ(path.view(), "");
+    EXPECT_TRUE(path.setLength(1023));
+}
+
 TEST(PathBuffer, CutsOnlyWhatIsThere)
 {
     PathBuffer path;

@@ -59,12 +59,15 @@ TEST_F(DeepRunTime, IsNotLookedBesideWhenThePathOfTheBackendDoesNotFit)
     EXPECT_EQ(callLibrary(), 0) << "the search goes on to the shared folder";
 }
 
-TEST_F(DeepRunTime, GivesWayToTheNextOneWhenItsPathDoesNotFit)
+TEST_F(DeepRunTime, IsNotLookedBesideWhenItsOwnPathDoesNotFit)
 {
-    const Path expected = installBackend("beside");
+    installBackend("beside");
+    const Path expected = installBackend("shared/Analysis");
     loadRunTime("beside", "instrsup.dll");
     loadDeep("cvirte.dll", 1024);
-    EXPECT_EQ(callLibrary(), 0);
+    EXPECT_EQ(callLibrary(), kNotFound);
+    setSharedFolder("shared");
+    EXPECT_EQ(callLibrary(), 0) << "the search goes on to the shared folder";
     EXPECT_EQ(loadedBackend(), expected);
 }
 
