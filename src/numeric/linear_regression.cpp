@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "QuorDSP_DAQ.h"
+#include "numeric/linear_regression.h"
 
 namespace quordsp {
 namespace {
@@ -45,11 +46,17 @@ Line fitLine(const double* y, int count) noexcept
 }
 
 } // namespace
+
+void removeLine(double* data, int count) noexcept
+{
+    const auto [slope, intercept] = fitLine(data, count);
+    for (int i = 0; i < count; ++i)
+        data[i] -= i * slope + intercept;
+}
+
 } // namespace quordsp
 
 void linear_regression(double* data, int count) noexcept
 {
-    const auto [slope, intercept] = quordsp::fitLine(data, count);
-    for (int i = 0; i < count; ++i)
-        data[i] -= i * slope + intercept;
+    quordsp::removeLine(data, count);
 }
