@@ -1,6 +1,6 @@
 # Thin names over the CMake presets and the scripts in tools/.
 .POSIX:
-.PHONY: help setup demo test dist bench format lint clean
+.PHONY: help setup demo test dist bench exhaustive format lint clean
 
 help: ## this list
 	@sed -n 's/^\([a-z]*\):.*## /  make \1\t/p' Makefile | expand -t 16
@@ -8,7 +8,7 @@ help: ## this list
 setup: ## install the Debian packages that are missing
 	@tools/setup.sh
 
-demo: dist ## filter a real recording with the Windows tool and write out/demo/
+demo: dist ## the Windows tool on real recordings: filter, spectra, vibration, furnace; out/demo/
 	@tools/demo.sh
 
 test: setup ## every check and test, on Windows (through Wine) and Linux
@@ -19,6 +19,9 @@ dist: setup ## release versions for Windows and Linux in dist/
 
 bench: setup ## the benchmarks, beside their peers
 	@tools/bench.sh
+
+exhaustive: setup ## thermocouples: every single-precision voltage of every type, for minutes
+	@tools/exhaustive.sh
 
 format: ## format the C++ sources
 	@git ls-files '*.cpp' '*.h' ':!include' | xargs clang-format-19 -i

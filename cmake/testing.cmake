@@ -11,6 +11,7 @@ function(quordsp_add_test name)
     add_executable(${name} ${test_SOURCES})
     target_link_libraries(${name} PRIVATE quordsp_warnings ${test_LIBRARIES} GTest::gmock_main)
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+    target_precompile_headers(${name} REUSE_FROM test_headers)
     gtest_discover_tests(${name} TEST_PREFIX ${name}. NO_PRETTY_VALUES DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 120
         PROPERTIES TIMEOUT 120 ${test_PROPERTIES})
 endfunction()

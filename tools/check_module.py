@@ -2,7 +2,8 @@
 
 usage: check_module.py MODULE EXPORTS.txt [--imports DLL ...]
 
-EXPORTS.txt lists the exported names, one a line, sorted. Reads the module with llvm-readobj-19 and llvm-nm-19.
+EXPORTS.txt lists the exported names, one a line, sorted. A decorated name stands as it is on Windows and, indented on
+the next line, as it is on other systems. Reads the module with llvm-readobj-19 and llvm-nm-19.
 """
 import argparse
 import re
@@ -55,8 +56,9 @@ def main():
     parser.add_argument("--imports", nargs="*", default=[])
     args = parser.parse_args()
     with open(args.exports, encoding="ascii") as golden:
-        wanted = golden.read().split()
+        lines = [line.split() for line in golden.read().replace("\n ", " ").splitlines()]
     on_windows = args.module.endswith(".dll")
+    wanted = [names[0 if on_windows else -1] for names in lines]
     problems = compare("export", (windows_exports if on_windows else linux_exports)(args.module), wanted)
     if on_windows:
         problems += windows_problems(args.module, args.imports)

@@ -29,7 +29,10 @@ backend_and_library_meet() {
     files 'backend/*' | xargs grep -nE '#include.*(QuorDSP_DAQ|frame/|src/)'
     files 'src/*' | xargs grep -nE '#include.*(nianlys|backend/)'
 }
-not_ascii() { { ours; files '*.md'; } | xargs grep -nP '[^\x00-\x7F]'; }
+# But for the one message that the library prints in Chinese.
+not_ascii() {
+    { ours; files '*.md'; } | xargs grep -nP '[^\x00-\x7F]' | grep -v '^src/audio/stereo_wav\.cpp:[0-9]*: *std::fputs('
+}
 blank_at_line_end() { { ours; files '*.md'; } | xargs grep -nE '[[:blank:]]+$'; }
 long_lines() { ours | xargs grep -nE '^.{121,}' | grep -v -e 'entries\.def' -e '__asm__\|alternatename' | cut -c1-80; }
 unformatted() {

@@ -1,10 +1,10 @@
 #!/bin/sh
-# Runs a Windows program: in a Wine prefix of this checkout's own, made on first use, without a display and without
-# Wine's chatter.
+# Runs a Windows program: in a Wine prefix of this checkout's own, made on first use, without a display, without
+# Wine's chatter, and without the debugger that it would start, for seconds, on every crash.
 set -eu
 root=$(cd "$(dirname "$0")/.." && pwd)
 export WINEPREFIX="${WINEPREFIX:-$root/build/wine}"
-export WINEDEBUG=-all WINEDLLOVERRIDES="${WINEDLLOVERRIDES:-mscoree,mshtml=}"
+export WINEDEBUG=-all WINEDLLOVERRIDES="${WINEDLLOVERRIDES:-mscoree,mshtml,winedbg.exe=}"
 unset DISPLAY
 export LC_ALL=C.UTF-8 # in the C locale, arguments outside ASCII arrive mangled
 wine=/usr/lib/wine/wine64

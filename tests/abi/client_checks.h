@@ -17,6 +17,7 @@ static int checkLibrary(int haveBackend)
     double line[3] = {3.0, 7.0, 11.0};
     const double impulse[4] = {1.0, 0.0, 0.0, 0.0};
     double out[4] = {-1.0, -1.0, -1.0, -1.0};
+    double sample[4] = {3.0, 0.0, 0.0, 0.0};
     AnalysisLibErrType status;
 
     if (QuorDSP_Calc_SPL_A(0, 0, 0.0, 0) != QUORDSP_SUCCESS)
@@ -24,6 +25,11 @@ static int checkLibrary(int haveBackend)
     linear_regression(line, 3);
     if (!nearlyZero(line[0]) || !nearlyZero(line[1]) || !nearlyZero(line[2]))
         return 2;
+    /* by its decorated name: 3 raw units of 2 g, less 1 g */
+    status = QuorDSP_Vibration_Acceleration_Euler(&sample[0], 1, 1.0, 2.0, -1.0, 0.0, 0.0, 1.0, -1.0, 1.0, -1.0,
+                                                  &sample[1], &sample[2], &sample[3], 0, 0);
+    if (status != QUORDSP_SUCCESS || !nearlyZero(sample[1] - 5.0))
+        return 6;
     status = QuorDSP_Bw_LPF(impulse, 4, 1000.0, 100.0, 2, out);
     if (!haveBackend)
         return status == QUORDSP_BACKEND_NOT_FOUND && out[0] == -1.0 ? 0 : 3;

@@ -5,31 +5,27 @@
 #include <fstream>
 #include <limits>
 #include <sstream>
+#include <string>
 
 #include <gmock/gmock.h>
 
 #include "QuorDSP_DAQ.h"
+#include "numeric/signals.h"
 #include "reference/linear_regression.h"
 
 namespace quordsp {
 namespace {
 
+using signals::bits;
+using signals::largest;
+using signals::Samples;
 using ::testing::Each;
 using ::testing::ElementsAre;
-using Samples = std::vector<double>;
 
 Samples withoutLine(Samples data)
 {
     linear_regression(data.data(), static_cast<int>(data.size()));
     return data;
-}
-
-std::vector<std::uint64_t> bits(const Samples& samples)
-{
-    std::vector<std::uint64_t> result;
-    for (const double sample : samples)
-        result.push_back(std::bit_cast<std::uint64_t>(sample));
-    return result;
 }
 
 Samples straightLine(int count, double offset, double slope)
@@ -38,14 +34,6 @@ Samples straightLine(int count, double offset, double slope)
     for (int i = 0; i < count; ++i)
         line.push_back(offset + slope * i);
     return line;
-}
-
-double largest(const Samples& samples)
-{
-    double result = 0.0;
-    for (const double sample : samples)
-        result = std::max(result, std::abs(sample));
-    return result;
 }
 
 // What remains of a line, against its largest sample.
@@ -103,13 +91,9 @@ TEST(LinearRegression, GivesTheBitsOfAnotherImplementation)
 
 TEST(LinearRegression, GivesTheBitsOfThePlainLoops)
 {
-    std::uint64_t state = 1;
+    signals::Noise noise;
     for (const int count : {2, 3, 4, 5, 7, 8, 9, 63, 64, 65, 1000, 46340, 46341, 46342, 65537, 1000000}) {
-        Samples data;
-        for (int i = 0; i < count; ++i) {
-            state = state * 6364136223846793005u + 1442695040888963407u;
-            data.push_back(static_cast<double>(state >> 11) * 0x1p-50 - 4.0);
-        }
+        const Samples data = noise.next(count);
         EXPECT_EQ(bits(withoutLine(data)), bits(reference::withoutLine(data))) << count;
     }
 }

@@ -1,0 +1,5 @@
+// The program whose precompiled headers all test programs share.
+int main()
+{
+    return 0;
+}
