@@ -1,6 +1,6 @@
 # Thin names over the CMake presets and the scripts in tools/.
 .POSIX:
-.PHONY: help setup demo test dist bench exhaustive format lint clean
+.PHONY: help setup demo test dist bench exhaustive fuzz format lint clean
 
 help: ## this list
 	@sed -n 's/^\([a-z]*\):.*## /  make \1\t/p' Makefile | expand -t 16
@@ -19,6 +19,9 @@ dist: setup ## release versions for Windows and Linux in dist/
 
 bench: setup ## the benchmarks, beside their peers
 	@tools/bench.sh
+
+fuzz: setup ## the fuzz targets, each for FUZZ_SECONDS (60)
+	@tools/fuzz.sh
 
 exhaustive: setup ## thermocouples: every single-precision voltage of every type, for minutes
 	@tools/exhaustive.sh

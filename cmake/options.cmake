@@ -1,6 +1,7 @@
 # What every target of the project is compiled with.
 option(QUORDSP_BUILD_TESTS "Build the tests" OFF)
 option(QUORDSP_BUILD_BENCH "Build the benchmarks" OFF)
+option(QUORDSP_BUILD_FUZZ "Build the fuzz targets around the fuzzing engine" OFF)
 set(QUORDSP_SANITIZE "" CACHE STRING "Sanitizers, as -fsanitize= takes them")
 
 set(CMAKE_C_STANDARD 11)
@@ -26,9 +27,9 @@ if(WIN32)
 endif()
 if(QUORDSP_SANITIZE)
     # The library and the backend know each other's functions by shape, not by type: that check is the compiler's, in
-    # tests/abi.
+    # tests/abi. What a sanitizer weaves in keeps loops from being unrolled or vectorised as asked.
     add_compile_options(-fsanitize=${QUORDSP_SANITIZE} -fno-sanitize=function -fno-sanitize-recover=all
-        -fno-omit-frame-pointer)
+        -fno-omit-frame-pointer -Wno-pass-failed)
     add_link_options(-fsanitize=${QUORDSP_SANITIZE})
 endif()
 

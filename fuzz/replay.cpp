@@ -1,0 +1,59 @@
+// Runs a target on every file of a folder, as a test: replay TARGET FOLDER.
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <string_view>
+
+#include "targets.h"
+
+namespace {
+
+using namespace quordsp;
+
+constexpr struct {
+    std::string_view name;
+    fuzz::Target* target;
+} kTargets[] = {{"linear_regression", fuzz::linear_regression},
+                {"detrend", fuzz::detrend},
+                {"vibration", fuzz::vibration},
+                {"acceleration", fuzz::acceleration},
+                {"vibration_euler", fuzz::vibration_euler},
+                {"thermocouple", fuzz::thermocouple},
+                {"snr", fuzz::snr},
+                {"write_wav", fuzz::write_wav},
+                {"write_wav_file", fuzz::write_wav_file}};
+
+fuzz::Target* targetOf(std::string_view name)
+{
+    for (const auto& row : kTargets)
+        if (row.name == name)
+            return row.target;
+    return nullptr;
+}
+
+void run(fuzz::Target* target, const std::filesystem::path& path)
+{
+    std::ifstream file{path, std::ios::binary};
+    const std::vector<std::uint8_t> bytes{std::istreambuf_iterator<char>{file}, {}};
+    std::fprintf(stderr, "%s, %zu bytes\n", path.filename().string().c_str(), bytes.size());
+    target(fuzz::Bytes{bytes});
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const std::span arguments{argv, static_cast<std::size_t>(argc)};
+    fuzz::Target* const target = argc == 3 ? targetOf(arguments[1]) : nullptr;
+    if (!target) {
+        std::fprintf(stderr, "usage: replay TARGET FOLDER\n");
+        return 2;
+    }
+    int files = 0;
+    for (const auto& entry : std::filesystem::directory_iterator{arguments[2]}) {
+        run(target, entry.path());
+        ++files;
+    }
+    return files > 0 ? 0 : 1;
+}
