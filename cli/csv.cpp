@@ -5,6 +5,7 @@
 
 #include "failure.h"
 #include "number.h"
+#include "progress.h"
 
 namespace quordsp::cli {
 namespace {
@@ -85,16 +86,46 @@ void CsvDocument::readNames()
         names_[i] = hasHeader_ && !names_[i].empty() ? unescaped(names_[i]) : "column " + std::to_string(i + 1);
 }
 
-std::vector<std::vector<double>> CsvDocument::columns(std::span<const std::size_t> chosen) const
+CsvRows CsvDocument::rowsBehindTheNames() const
 {
-    std::vector<std::vector<double>> values(chosen.size());
     CsvRows row = rows();
     if (hasHeader_)
         row.next();
-    while (row.next())
+    return row;
+}
+
+std::vector<std::vector<double>> CsvDocument::columns(std::span<const std::size_t> chosen) const
+{
+    std::vector<std::vector<double>> values(chosen.size());
+    CsvRows row = rowsBehindTheNames();
+    Progress progress("reading " + fileName_, text_.size());
+    for (; row.next(); progress.reach(row.position()))
         for (std::size_t i = 0; i < chosen.size(); ++i)
             values[i].push_back(number(row, chosen[i]));
     return values;
+}
+
+std::vector<std::string> CsvDocument::texts(std::size_t column) const
+{
+    std::vector<std::string> values;
+    CsvRows row = rowsBehindTheNames();
+    while (row.next())
+        values.emplace_back(column < row.fields().size() ? row.fields()[column] : std::string_view{});
+    return values;
+}
+
+std::string CsvDocument::firstText(std::size_t column) const
+{
+    CsvRows row = rowsBehindTheNames();
+    return row.next() && column < row.fields().size() ? std::string(row.fields()[column]) : "";
+}
+
+void CsvDocument::failAt(std::size_t row, const std::string& what, const std::string& advice) const
+{
+    CsvRows reader = rowsBehindTheNames();
+    for (std::size_t i = 0; i <= row && reader.next(); ++i)
+        continue;
+    fail(reader.line(), what, advice);
 }
 
 double CsvDocument::number(const CsvRows& row, std::size_t column) const

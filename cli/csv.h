@@ -24,6 +24,8 @@ public:
     [[nodiscard]] std::span<const std::string_view> fields() const { return fields_; }
     // The line of the text that the row starts in, from 1.
     [[nodiscard]] std::size_t line() const { return line_; }
+    // How many bytes of the text are behind the reader.
+    [[nodiscard]] std::size_t position() const { return position_; }
 
 private:
     std::string_view takeField();
@@ -52,9 +54,16 @@ public:
     // The numbers of the chosen columns, in one pass. Throws a Failure, with the line and the column, at the first
     // field that is missing or not a number.
     [[nodiscard]] std::vector<std::vector<double>> columns(std::span<const std::size_t> chosen) const;
+    // A column as it stands, and its first field; that is empty when there is none.
+    [[nodiscard]] std::vector<std::string> texts(std::size_t column) const;
+    [[nodiscard]] std::string firstText(std::size_t column) const;
+
+    // Throws a Failure about a row, counted from 0 without the names.
+    [[noreturn]] void failAt(std::size_t row, const std::string& what, const std::string& advice) const;
 
 private:
     [[nodiscard]] CsvRows rows() const;
+    [[nodiscard]] CsvRows rowsBehindTheNames() const;
     void readNames();
     [[nodiscard]] double number(const CsvRows& row, std::size_t column) const;
     [[noreturn]] void fail(std::size_t line, const std::string& what, const std::string& advice) const;

@@ -1,6 +1,7 @@
 #include "csv_writer.h"
 
 #include "number.h"
+#include "progress.h"
 
 namespace quordsp::cli {
 namespace {
@@ -26,20 +27,30 @@ std::string header(const std::vector<OutputColumn>& columns)
     return text;
 }
 
+void appendField(std::string& text, const OutputColumn& column, std::size_t row)
+{
+    if (column.text)
+        text += quotedIfNeeded(column.text(row));
+    else
+        appendShortest(text, column.value(row));
+}
+
 } // namespace
 
 void writeCsv(OutputFile& file, const std::vector<OutputColumn>& columns, std::size_t rows)
 {
+    Progress progress("writing the table", rows);
     std::string text = header(columns);
     for (std::size_t row = 0; row < rows; ++row) {
         for (const OutputColumn& column : columns) {
-            appendShortest(text, column.value(row));
+            appendField(text, column, row);
             text += ',';
         }
         text.back() = '\n';
         if (text.size() >= kBlock) {
             file.write(text);
             text.clear();
+            progress.reach(row);
         }
     }
     file.write(text);

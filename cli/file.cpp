@@ -7,6 +7,7 @@
 #include <system_error>
 
 #include "failure.h"
+#include "os.h"
 
 namespace quordsp::cli {
 namespace fs = std::filesystem;
@@ -25,10 +26,9 @@ std::string reason(int code)
 // Two runs that write to the same target must not share a temporary file.
 fs::path temporaryName(const fs::path& path)
 {
-    std::array<char, 16> suffix{};
-    std::snprintf(suffix.data(), suffix.size(), ".%08x.tmp", std::random_device{}());
-    fs::path name = path;
-    return name += suffix.data();
+    std::array<char, 24> name{};
+    std::snprintf(name.data(), name.size(), "quordsp-%08x.tmp", std::random_device{}());
+    return path.parent_path() / name.data();
 }
 
 // A link keeps its place: what it points to is written.
@@ -43,8 +43,16 @@ void requireReplaceable(const fs::path& path)
 {
     std::error_code error;
     if (fs::exists(path, error) && !fs::is_regular_file(path, error))
-        throw Failure(ExitCode::Output, "cannot write " + display(path) + ": it is not a regular file",
-                      "name a file that is new or may be replaced");
+        cannotWrite(path, "it is not a regular file", "name a file that is new or may be replaced");
+}
+
+// Where a file is or would be, by whatever name.
+std::string placeOf(const fs::path& path)
+{
+    std::error_code error;
+    const fs::path full = fs::absolute(path, error);
+    const fs::path place = fs::weakly_canonical(full, error);
+    return display(error ? full.lexically_normal() : place);
 }
 
 } // namespace
@@ -58,6 +66,14 @@ std::string display(const fs::path& path)
 {
     const std::u8string text = path.u8string();
     return {text.begin(), text.end()};
+}
+
+bool sameFile(const fs::path& one, const fs::path& other)
+{
+    if (one.empty() || other.empty())
+        return false;
+    std::error_code error;
+    return os::sameName(placeOf(one), placeOf(other)) || fs::equivalent(one, other, error);
 }
 
 std::string readFile(const fs::path& path)
@@ -80,27 +96,51 @@ std::string readFile(const fs::path& path)
     return bytes;
 }
 
-OutputFile::OutputFile(const fs::path& path) : path_(linkTarget(path)), temporary_(temporaryName(path_))
+void cannotWrite(const fs::path& path, const std::string& why, const std::string& advice)
 {
-    requireReplaceable(path_);
-    errno = 0;
-    stream_.open(temporary_, std::ios::binary);
-    if (!stream_)
-        fail();
+    throw Failure(ExitCode::Output, "cannot write " + display(path) + ": " + why, advice);
 }
 
-OutputFile::~OutputFile()
+PendingFile::PendingFile(const fs::path& path) : path_(linkTarget(path)), temporary_(temporaryName(path_))
 {
-    stream_.close();
+    requireReplaceable(path_);
+}
+
+PendingFile::~PendingFile()
+{
     std::error_code error;
     fs::remove(temporary_, error); // after a commit there is none
 }
+
+std::ofstream PendingFile::create() const
+{
+    errno = 0;
+    std::ofstream stream(temporary_, std::ios::binary);
+    if (!stream)
+        fail(errno);
+    return stream;
+}
+
+void PendingFile::fail(int code) const
+{
+    cannotWrite(path_, reason(code), "check the folder, its access rights and the free space");
+}
+
+void PendingFile::commit()
+{
+    std::error_code error;
+    fs::rename(temporary_, path_, error);
+    if (error)
+        cannotWrite(path_, error.message(), "close the program that holds the file, or name another one");
+}
+
+OutputFile::OutputFile(const fs::path& path) : pending_(path), stream_(pending_.create()) {}
 
 void OutputFile::write(std::string_view bytes)
 {
     errno = 0;
     if (!stream_.write(bytes.data(), static_cast<std::streamsize>(bytes.size())))
-        fail();
+        pending_.fail(errno);
 }
 
 void OutputFile::commit()
@@ -108,18 +148,8 @@ void OutputFile::commit()
     errno = 0;
     stream_.close();
     if (!stream_)
-        fail();
-    std::error_code error;
-    fs::rename(temporary_, path_, error);
-    if (error)
-        throw Failure(ExitCode::Output, "cannot write " + display(path_) + ": " + error.message(),
-                      "close the program that holds the file, or name another one");
-}
-
-void OutputFile::fail() const
-{
-    throw Failure(ExitCode::Output, "cannot write " + display(path_) + ": " + reason(errno),
-                  "check the folder, its access rights and the free space");
+        pending_.fail(errno);
+    pending_.commit();
 }
 
 } // namespace quordsp::cli

@@ -41,20 +41,6 @@ std::optional<std::size_t> findColumn(const std::string& wanted, const std::vect
     return number && *number <= names.size() ? std::optional(*number - 1) : std::nullopt;
 }
 
-// Without a choice it is the first column, or the one that follows it.
-std::size_t chooseColumn(const InputChoice& choice, const std::vector<std::string>& names, std::size_t first)
-{
-    if (choice.column.empty() && first >= names.size())
-        badInput(choice, "there is no column besides time",
-                 "name a file with samples, or '" + names[0] + "' as --column");
-    if (choice.column.empty())
-        return first;
-    if (const auto found = findColumn(choice.column, names))
-        return *found;
-    badInput(choice, "there is no column '" + choice.column + "'",
-             "the columns are " + quotedList(names) + "; a number counts them from 1");
-}
-
 void setTimes(Series& series, const InputChoice& choice, std::vector<double> times, double unit)
 {
     if (times.size() < 2)
@@ -118,6 +104,19 @@ std::size_t sampleAt(const Series& series, double time)
 
 } // namespace
 
+std::size_t chooseColumn(const InputChoice& choice, const std::vector<std::string>& names, std::size_t otherwise)
+{
+    if (choice.column.empty() && otherwise >= names.size())
+        badInput(choice, "there is no column besides time",
+                 "name a file with samples, or '" + names[0] + "' as --column");
+    if (choice.column.empty())
+        return otherwise;
+    if (const auto found = findColumn(choice.column, names))
+        return *found;
+    badInput(choice, "there is no column '" + choice.column + "'",
+             "the columns are " + quotedList(names) + "; a number counts them from 1");
+}
+
 Series readSeries(const InputChoice& choice)
 {
     std::string bytes = readFile(choice.path);
@@ -128,15 +127,20 @@ Series readSeries(const InputChoice& choice)
     return series;
 }
 
-Series cut(Series series, const Span& span)
+SampleRange samplesWithin(const Series& series, const Span& span, const std::string& option)
 {
     const std::size_t count = series.samples.size();
-    const std::size_t first = span.from ? sampleAt(series, *span.from) : 0;
-    const std::size_t last = span.to ? sampleAt(series, *span.to) : count;
-    if (first >= last)
-        throw Failure(ExitCode::Usage, "no sample lies between --from and --to",
+    const SampleRange range{span.from ? sampleAt(series, *span.from) : 0, span.to ? sampleAt(series, *span.to) : count};
+    if (range.first >= range.last)
+        throw Failure(ExitCode::Usage, "no sample lies between " + option,
                       "the signal lasts from " + rounded(series.start) + " s to " + rounded(series.time(count - 1)) +
                           " s");
+    return range;
+}
+
+Series cut(Series series, const Span& span)
+{
+    const auto [first, last] = samplesWithin(series, span, "--from and --to");
     series.start = series.time(first);
     const auto begin = series.samples.begin();
     series.samples = {begin + static_cast<std::ptrdiff_t>(first), begin + static_cast<std::ptrdiff_t>(last)};

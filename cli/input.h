@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "series.h"
 
@@ -14,6 +15,9 @@ struct InputChoice {
     std::optional<double> rate = std::nullopt; // Hz; without it a CSV file's time column tells
 };
 
+// The column that is chosen among these, or that one when there is no choice; throws a Failure when it is not there.
+std::size_t chooseColumn(const InputChoice& choice, const std::vector<std::string>& names, std::size_t otherwise);
+
 // Throws a Failure when the file, the column or the rate does not fit.
 Series readSeries(const InputChoice& choice);
 
@@ -21,6 +25,15 @@ struct Span {
     std::optional<double> from = std::nullopt; // s, the first sample at or after it
     std::optional<double> to = std::nullopt;   // s, up to the last sample before it
 };
+
+struct SampleRange {
+    std::size_t first;
+    std::size_t last; // exclusive
+};
+
+// The samples between two times of the signal's own time axis; throws a Failure that names the option when none lies
+// there.
+SampleRange samplesWithin(const Series& series, const Span& span, const std::string& option);
 
 // The part of a signal between two times of its own time axis; throws a Failure when no sample lies there.
 Series cut(Series series, const Span& span);

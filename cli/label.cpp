@@ -6,9 +6,9 @@ namespace quordsp::cli {
 namespace {
 
 constexpr std::string_view kUnits[] = {
-    "s",  "ms",  "us",   "min",  "h",   "Hz", "kHz", "rpm", "rad", "deg", "degC", "K", "g",  "m",  "mm",
-    "um", "m/s", "mm/s", "m/s2", "N",   "kN", "Nm",  "Pa",  "kPa", "MPa", "bar",  "V", "mV", "uV", "A",
-    "mA", "W",   "Ohm",  "FS",   "pct", "%",  "dB",  "dBA", "C",   "pC",  "kg",   "J", "T",  "mT", "lx",
+    "s",  "ms", "us",  "min",  "h",    "Hz", "kHz", "rpm", "rad", "deg", "degC", "degF", "degR", "K",  "g",  "m",
+    "mm", "um", "m/s", "mm/s", "m/s2", "N",  "kN",  "Nm",  "Pa",  "kPa", "MPa",  "bar",  "V",    "mV", "uV", "A",
+    "mA", "W",  "Ohm", "FS",   "pct",  "%",  "dB",  "dBA", "C",   "pC",  "kg",   "J",    "T",    "mT", "lx",
 };
 
 bool isKnownUnit(std::string_view text)

@@ -46,6 +46,11 @@ std::string rounded(double value, int digits)
     return {buffer, result.ptr};
 }
 
+std::string counted(std::size_t count, const std::string& what)
+{
+    return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
+}
+
 std::optional<double> parseNumber(std::string_view text)
 {
     double value = 0;

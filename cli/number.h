@@ -13,6 +13,9 @@ std::string shortest(double value);
 // At most so many significant digits, without trailing zeros: for people to read.
 std::string rounded(double value, int digits = 6);
 
+// "1 sample", "2 samples"
+std::string counted(std::size_t count, const std::string& what);
+
 // The whole text as one finite number with a decimal point; nothing when it is not one. A leading plus sign is
 // accepted.
 std::optional<double> parseNumber(std::string_view text);

@@ -1,7 +1,5 @@
 #include "options.h"
 
-#include <system_error>
-
 #include "failure.h"
 #include "file.h"
 #include "number.h"
@@ -19,6 +17,17 @@ CLI::Validator numberAbove(double limit, const std::string& kind)
             "", kind};
 }
 
+} // namespace
+
+const CLI::Validator kNumber = numberAbove(-std::numeric_limits<double>::infinity(), "number");
+const CLI::Validator kPositive = numberAbove(0, "number above 0");
+const CLI::Validator kWhole(
+    [](const std::string& text) {
+        int value = 0;
+        return CLI::detail::lexical_cast(text, value) ? std::string{} : "'" + text + "' is not a whole number";
+    },
+    "");
+
 CLI::Option* addPath(CLI::App& app, const std::string& name, fs::path& path, const std::string& help)
 {
     const auto set = [&path](const std::string& text) { path = pathFromUtf8(text); };
@@ -26,17 +35,6 @@ CLI::Option* addPath(CLI::App& app, const std::string& name, fs::path& path, con
         ->check(CLI::Validator(
             [](const std::string& text) { return text.empty() ? "the file name is empty" : std::string{}; }, ""));
 }
-
-bool sameFile(const fs::path& one, const fs::path& other)
-{
-    std::error_code error;
-    return !one.empty() && (one.lexically_normal() == other.lexically_normal() || fs::equivalent(one, other, error));
-}
-
-} // namespace
-
-const CLI::Validator kNumber = numberAbove(-std::numeric_limits<double>::infinity(), "number");
-const CLI::Validator kPositive = numberAbove(0, "number above 0");
 
 void addInput(CLI::App& app, InputChoice& input)
 {
@@ -50,6 +48,12 @@ void addInput(CLI::App& app, InputChoice& input)
                    "column of equally spaced times (time, time_s, time_ms, t, ...)")
         ->check(kPositive)
         ->type_name("HZ");
+}
+
+void addSpan(CLI::App& app, Span& span)
+{
+    app.add_option("--from", span.from, "Leave out what comes before")->check(kNumber)->type_name("S");
+    app.add_option("--to", span.to, "Leave out this time and what comes after")->check(kNumber)->type_name("S");
 }
 
 void addOutput(CLI::App& app, OutputChoice& output)

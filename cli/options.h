@@ -7,12 +7,19 @@
 
 namespace quordsp::cli {
 
-// Checks of an option's value: a finite number, and one above zero.
+// Checks of an option's value: a finite number, one above zero, and one that fits an int.
 extern const CLI::Validator kNumber;
 extern const CLI::Validator kPositive;
+extern const CLI::Validator kWhole;
 
 // INPUT, --column and --rate.
 void addInput(CLI::App& app, InputChoice& input);
+
+// --from and --to.
+void addSpan(CLI::App& app, Span& span);
+
+// An option that takes a file name, in UTF-8.
+CLI::Option* addPath(CLI::App& app, const std::string& name, std::filesystem::path& path, const std::string& help);
 
 // -o and --plot.
 void addOutput(CLI::App& app, OutputChoice& output);

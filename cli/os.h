@@ -18,6 +18,12 @@ private:
     unsigned before_ = 0;
 };
 
+// True when the system takes both paths for the same one, whether it is there or not.
+bool sameName(const std::string& one, const std::string& other);
+
+// True when a person reads the error stream as it is written.
+bool errorsGoToTerminal();
+
 // The full path of a module that this process has loaded, by its file name; empty when it has not.
 std::string loadedModulePath(const std::string& fileName);
 

@@ -6,6 +6,7 @@
 
 #include <dlfcn.h>
 #include <link.h>
+#include <unistd.h>
 
 namespace quordsp::cli::os {
 namespace {
@@ -40,6 +41,16 @@ Utf8Console::Utf8Console() = default;
 
 Utf8Console::~Utf8Console() = default;
 
+bool sameName(const std::string& one, const std::string& other)
+{
+    return one == other;
+}
+
+bool errorsGoToTerminal()
+{
+    return isatty(STDERR_FILENO) != 0;
+}
+
 std::string loadedModulePath(const std::string& fileName)
 {
     Search search{fileName, {}};
@@ -69,7 +80,7 @@ std::string loadError(const std::string& path)
 {
     if (dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL))
         return {};
-    const char* const text = dlerror(); // NOLINT(concurrency-mt-unsafe): the tool has one thread
+    const char* const text = dlerror(); // NOLINT(concurrency-mt-unsafe): only the main thread loads modules
     return text ? text : "the system gives no reason";
 }
 

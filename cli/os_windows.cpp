@@ -94,6 +94,19 @@ Utf8Console::~Utf8Console()
         SetConsoleOutputCP(before_);
 }
 
+bool sameName(const std::string& one, const std::string& other)
+{
+    const std::wstring first = std::filesystem::path(std::u8string(one.begin(), one.end()));
+    const std::wstring second = std::filesystem::path(std::u8string(other.begin(), other.end()));
+    return CompareStringOrdinal(first.c_str(), -1, second.c_str(), -1, TRUE) == CSTR_EQUAL;
+}
+
+bool errorsGoToTerminal()
+{
+    DWORD mode = 0;
+    return GetConsoleMode(GetStdHandle(STD_ERROR_HANDLE), &mode) != 0;
+}
+
 std::string loadedModulePath(const std::string& fileName)
 {
     const HMODULE module = GetModuleHandleA(fileName.c_str());

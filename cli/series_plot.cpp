@@ -9,23 +9,31 @@ namespace {
 
 constexpr double kFarStart = 100; // durations before the first sample
 
-bool startsFar(const Series& series)
-{
-    const double duration = static_cast<double>(series.samples.size()) / series.rate;
-    return std::abs(series.start) > kFarStart * duration;
-}
-
 } // namespace
+
+TimeOrigin timeOrigin(double start, double duration)
+{
+    if (std::abs(start) > kFarStart * duration)
+        return {start, "time after " + rounded(start, 15) + " s (s)"};
+    return {0, "time (s)"};
+}
 
 Plot timePlot(const Series& series)
 {
     Plot plot;
-    const bool far = startsFar(series);
-    plot.xLabel = far ? "time after " + rounded(series.start, 15) + " s (s)" : "time (s)";
-    plot.yLabel = series.label.axis();
-    plot.xStart = far ? 0 : series.start;
+    const TimeOrigin origin = timeOrigin(series.start, static_cast<double>(series.samples.size()) / series.rate);
+    plot.xLabel = origin.label;
+    plot.xStart = series.start - origin.time;
     plot.xStep = 1 / series.rate;
     return plot;
+}
+
+void show(Plot& plot, const SampleRange& range)
+{
+    plot.xStart += static_cast<double>(range.first) * plot.xStep;
+    for (Panel& panel : plot.panels)
+        for (Curve& curve : panel.curves)
+            curve.samples = curve.samples.subspan(range.first, range.last - range.first);
 }
 
 } // namespace quordsp::cli

@@ -150,4 +150,13 @@ std::optional<Sine> fitSine(std::span<const double> samples, double rate, double
     return std::nullopt;
 }
 
+std::optional<double> amplitudeAt(std::span<const double> samples, double rate, double frequency)
+{
+    Vector solution{};
+    const double w = 2 * std::numbers::pi * frequency / rate;
+    if (samples.size() < kFewestSamples || !solve(normalEquations(samples, meanOf(samples), w, {}), 3, solution))
+        return std::nullopt;
+    return std::hypot(solution[0], solution[1]);
+}
+
 } // namespace quordsp::cli

@@ -24,4 +24,8 @@ struct Sine {
  */
 std::optional<Sine> fitSine(std::span<const double> samples, double rate, double frequency);
 
+// The amplitude, in the unit of the signal, of the sine of a given frequency that fits best, weighted in the same way:
+// offset, cosine and sine alone. Nothing when they cannot be told apart.
+std::optional<double> amplitudeAt(std::span<const double> samples, double rate, double frequency);
+
 } // namespace quordsp::cli

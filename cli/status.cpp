@@ -51,6 +51,10 @@ constexpr Meaning kMeanings[] = {
     {-20068, "the input holds a value that is not finite"},
     {-20103, "the order must not be negative"},
     {-20104, "the input holds a value that is not finite"},
+    {-20322, "a voltage is out of the range of the thermocouple"},
+    {20032, "an array is missing or empty"},
+    {20033, "the file cannot be created"},
+    {2147483647, "there is no such type of thermocouple"},
     {-20115, "the size of the transform must be greater than zero"},
 };
 
@@ -89,6 +93,12 @@ void check(AnalysisLibErrType status, const std::string& call)
     if (value < 0)
         throw Failure(backendIsMissing(value) ? ExitCode::BackendMissing : ExitCode::BackendError,
                       call + ": " + statusText(value), advice(value));
+}
+
+void requireSuccess(AnalysisLibErrType status, const std::string& call)
+{
+    if (status != 0)
+        throw Failure(ExitCode::Internal, call + ": " + statusText(status));
 }
 
 } // namespace quordsp::cli

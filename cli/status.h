@@ -13,4 +13,7 @@ std::string statusText(int status);
 // on the error stream, and the result stands.
 void check(AnalysisLibErrType status, const std::string& call);
 
+// Throws a Failure for any status but 0, as the library's own calls have it: they know no warnings.
+void requireSuccess(AnalysisLibErrType status, const std::string& call);
+
 } // namespace quordsp::cli

@@ -1,8 +1,15 @@
 #include "strongest_line.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace quordsp::cli {
+
+double roundingLevel(double offsetLevel, std::size_t count, bool squared)
+{
+    const double relative = static_cast<double>(count) * std::numeric_limits<double>::epsilon();
+    return offsetLevel * (squared ? relative * relative : relative);
+}
 
 std::optional<StrongestLine> findStrongestLine(std::span<const double> samples, double rate,
                                                std::span<const double> levels, double floor)

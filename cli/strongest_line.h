@@ -13,6 +13,10 @@ struct StrongestLine {
     std::optional<Sine> sine; // fitted to the samples around that frequency; nothing when no sine settles there
 };
 
+// What rounding leaves in the bins of a constant signal of so many samples stays below it. The offset level is that of
+// DC; levels of power are squared.
+double roundingLevel(double offsetLevel, std::size_t count, bool squared);
+
 // The levels are those of the single-sided spectrum of the samples. Nothing when there is no bin besides DC or none is
 // above the floor, the level of rounding.
 std::optional<StrongestLine> findStrongestLine(std::span<const double> samples, double rate,

@@ -6,6 +6,10 @@
 #define QUORDSP_COMMANDS(ROW)                                                                                          \
     ROW(filter, "Filter a signal: low-pass, high-pass, band-pass or band-stop")                                        \
     ROW(spectrum, "Amplitude or power spectrum of a signal, and its strongest line")                                   \
+    ROW(detrend, "A signal without its polynomial trend, which may bend at breakpoints")                               \
+    ROW(vibration, "Acceleration to velocity and displacement")                                                        \
+    ROW(thermocouple, "Thermocouple voltages to temperatures")                                                         \
+    ROW(wav, "A signal as a WAV file")                                                                                 \
     ROW(info, "Which analysis backend is in use, or why none was found")
 
 namespace quordsp::cli::command {

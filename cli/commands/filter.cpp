@@ -12,6 +12,7 @@
 #include "input.h"
 #include "number.h"
 #include "options.h"
+#include "progress.h"
 #include "series_plot.h"
 #include "status.h"
 
@@ -73,7 +74,11 @@ std::vector<double> filtered(const Series& series, const Options& options, const
     std::vector<double> out(series.samples.size());
     const FilterRequest request{
         series.samples, series.rate, {options.cutoff.front(), options.cutoff.back()}, options.order};
-    check(design.run(request, out.data()), describe(options) + " at " + rounded(series.rate) + " Hz");
+    const auto status = [&] {
+        const Progress progress("filtering");
+        return design.run(request, out.data());
+    }();
+    check(status, describe(options) + " at " + rounded(series.rate) + " Hz");
     return out;
 }
 
@@ -83,7 +88,7 @@ Plot plotOf(const Series& series, const std::vector<double>& out, const Options&
     plot.title = series.label.quantity + ", " + describeResponse(options);
     plot.subtitle =
         display(options.input.path.filename()) + ", " + describeDesign(options) + ", " + rounded(series.rate) + " Hz";
-    plot.curves = {{"input", series.samples}, {"filtered", out}};
+    plot.panels = {{.yLabel = series.label.axis(), .curves = {{"input", series.samples}, {"filtered", out}}}};
     return plot;
 }
 
@@ -99,8 +104,8 @@ void run(const Options& options)
                  {columnName("input", unit), [&](std::size_t i) { return series.samples[i]; }},
                  {columnName("filtered", unit), [&](std::size_t i) { return out[i]; }}},
                 out.size(), [&] { return plotOf(series, out, options); });
-    std::cout << out.size() << " samples of " << printable(series.label.axis()) << " at " << rounded(series.rate)
-              << " Hz: " << describe(options) << '\n';
+    std::cout << counted(out.size(), "sample") << " of " << printable(series.label.axis()) << " at "
+              << rounded(series.rate) << " Hz: " << describe(options) << '\n';
     printWritten(options.output);
 }
 
@@ -116,6 +121,7 @@ void filter(CLI::App& app)
         ->check(CLI::IsMember(named(&FilterDesign::response)));
     app.add_option("--order", options->order,
                    "Order of the low-pass prototype, 1 or more; a band filter has twice the poles")
+        ->check(kWhole)
         ->required();
     app.add_option("--cutoff", options->cutoff,
                    "Frequency of half power (-3 dB); two ascending ones for a band.\n"

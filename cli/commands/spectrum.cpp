@@ -2,7 +2,6 @@
 #include <algorithm>
 #include <cmath>
 #include <iostream>
-#include <limits>
 #include <memory>
 #include <numbers>
 #include <optional>
@@ -14,6 +13,7 @@
 #include "input.h"
 #include "number.h"
 #include "options.h"
+#include "progress.h"
 #include "spectrum_kinds.h"
 #include "status.h"
 #include "strongest_line.h"
@@ -38,19 +38,17 @@ struct Spectrum {
     std::optional<StrongestLine> line;
 };
 
-// What rounding leaves in the bins of a constant signal stays below it.
-double roundingLevel(const SpectrumKind& kind, std::size_t count, double offsetLevel)
-{
-    const double relative = static_cast<double>(count) * std::numeric_limits<double>::epsilon();
-    return offsetLevel * (kind.squared ? relative * relative : relative);
-}
-
 Spectrum spectrumOf(const Series& series, const SpectrumKind& kind)
 {
     const std::size_t count = series.samples.size();
     std::vector<double> levels(binCount(count));
-    check(kind.run(series.samples, 1 / series.rate, levels.data()), std::string(kind.name) + " spectrum");
-    auto line = findStrongestLine(series.samples, series.rate, levels, roundingLevel(kind, count, levels[0]));
+    const auto status = [&] {
+        const Progress progress("transforming");
+        return kind.run(series.samples, 1 / series.rate, levels.data());
+    }();
+    check(status, std::string(kind.name) + " spectrum");
+    const Progress progress("fitting a sine");
+    auto line = findStrongestLine(series.samples, series.rate, levels, roundingLevel(levels[0], count, kind.squared));
     return {kind, std::move(levels), series.rate / static_cast<double>(count), line};
 }
 
@@ -111,14 +109,15 @@ Plot plotOf(const Series& series, const Spectrum& spectrum, const Options& optio
 {
     return {.title = series.label.quantity + ", " + (spectrum.kind.squared ? "power" : "amplitude") + " spectrum",
             .subtitle = display(options.input.path.filename()) + ", " + rounded(series.start) + " s to " +
-                        rounded(series.time(series.samples.size())) + " s, " + std::to_string(series.samples.size()) +
-                        " samples, bins " + rounded(spectrum.spacing, 4) + " Hz apart",
+                        rounded(series.time(series.samples.size())) + " s, " +
+                        counted(series.samples.size(), "sample") + ", bins " + rounded(spectrum.spacing, 4) +
+                        " Hz apart",
             .xLabel = "frequency (Hz)",
-            .yLabel = levelLabel(series, spectrum.kind).axis(),
             .xStep = spectrum.spacing,
-            .logarithmic = true,
-            .curves = {{series.label.quantity, spectrum.levels}},
-            .callout = calloutOf(spectrum, series.label.unit)};
+            .panels = {{.yLabel = levelLabel(series, spectrum.kind).axis(),
+                        .logarithmic = true,
+                        .curves = {{series.label.quantity, spectrum.levels}},
+                        .callout = calloutOf(spectrum, series.label.unit)}}};
 }
 
 void run(const Options& options)
@@ -132,7 +131,7 @@ void run(const Options& options)
                 {{"frequency_Hz", [&](std::size_t i) { return static_cast<double>(i) * series.rate / count; }},
                  {name, [&](std::size_t i) { return spectrum.levels[i]; }}},
                 spectrum.levels.size(), [&] { return plotOf(series, spectrum, options); });
-    std::cout << series.samples.size() << " samples of " << printable(series.label.axis()) << " at "
+    std::cout << counted(series.samples.size(), "sample") << " of " << printable(series.label.axis()) << " at "
               << rounded(series.rate) << " Hz\n";
     printLine(spectrum, printable(series.label.unit));
     std::cout << "bin spacing:    " << rounded(spectrum.spacing) << " Hz\n";
@@ -151,10 +150,7 @@ void spectrum(CLI::App& app)
             ->check(CLI::IsMember({"rms", "peak"}))
             ->capture_default_str();
     app.add_flag("--power", options->power, "Power, the square of the rms amplitude")->excludes(amplitude);
-    app.add_option("--from", options->span.from, "Leave out what comes before")->check(kNumber)->type_name("S");
-    app.add_option("--to", options->span.to, "Leave out this time and what comes after")
-        ->check(kNumber)
-        ->type_name("S");
+    addSpan(app, options->span);
     app.callback([options] { run(*options); });
 }
 

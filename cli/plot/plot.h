@@ -1,4 +1,4 @@
-// A line plot of equally spaced curves over one axis, as an SVG document.
+// A line plot of curves over one axis, in one panel or several, as an SVG document.
 #pragma once
 #include <optional>
 #include <span>
@@ -8,7 +8,7 @@
 namespace quordsp::cli {
 
 struct Curve {
-    std::string name; // for the legend
+    std::string name; // for the legend; without one it has no place there
     std::span<const double> samples;
 };
 
@@ -19,16 +19,21 @@ struct Callout {
     std::string text;
 };
 
+struct Panel {
+    std::string yLabel;
+    bool logarithmic = false;  // the y axis, in decades; what is not positive lies at its lower end
+    std::vector<Curve> curves; // the last one is drawn on top and stands out
+    std::optional<Callout> callout = std::nullopt;
+};
+
 struct Plot {
     std::string title;
     std::string subtitle;
     std::string xLabel;
-    std::string yLabel;
-    double xStart = 0;
+    double xStart = 0; // where the first sample lies; with x, what is added to it
     double xStep = 1;
-    bool logarithmic = false;  // the y axis, in decades; what is not positive lies at its lower end
-    std::vector<Curve> curves; // the last one is drawn on top and stands out
-    std::optional<Callout> callout = std::nullopt;
+    std::span<const double> x = {}; // where the samples lie, when that is not equally spaced; as many as samples
+    std::vector<Panel> panels;      // one or more, below one another, over the same x axis
 };
 
 // Texts that are longer than their place are shortened.

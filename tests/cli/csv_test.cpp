@@ -193,5 +193,20 @@ TEST(Csv, SurvivesEveryPrefixOfATrickyText)
         }
 }
 
+TEST(CsvDocument, GivesAColumnAsText)
+{
+    const CsvDocument document("when,x\n09:04,1\n\"9, 5\",2\n", "f.csv");
+    EXPECT_THAT(document.texts(0), testing::ElementsAre("09:04", "9, 5"));
+    EXPECT_EQ(document.firstText(1), "1");
+    EXPECT_EQ(CsvDocument("when,x\n", "f.csv").firstText(1), "");
+}
+
+TEST(CsvDocument, NamesTheLineOfARow)
+{
+    const CsvDocument document("a\n\"1\n\"\n2\n3\n", "f.csv");
+    EXPECT_THAT(messageOf([&] { document.failAt(0, "bad", ""); }), testing::HasSubstr("f.csv:2: bad"));
+    EXPECT_THAT(messageOf([&] { document.failAt(2, "bad", ""); }), testing::HasSubstr("f.csv:5: bad"));
+}
+
 } // namespace
 } // namespace quordsp::cli

@@ -29,6 +29,15 @@ TEST(CsvWriter, QuotesANameThatHoldsASeparatorOrAQuote)
     EXPECT_EQ(written({{"x (m, \"true\")", [](std::size_t) { return 1.0; }}}, 1), "\"x (m, \"\"true\"\")\"\n1\n");
 }
 
+TEST(CsvWriter, WritesTextAsItIsAndQuotedWhereItMust)
+{
+    const std::vector<std::string> texts{"2026-05-26 09:04:27", "a, b"};
+    const std::vector<OutputColumn> columns{
+        {.name = "when", .value = {}, .text = [&](std::size_t i) -> const std::string& { return texts[i]; }},
+        {.name = "x", .value = [](std::size_t i) { return static_cast<double>(i); }}};
+    EXPECT_EQ(written(columns, 2), "when,x\n2026-05-26 09:04:27,0\n\"a, b\",1\n");
+}
+
 TEST(CsvWriter, WritesWhatTheReaderReadsBackExactlyAcrossManyBlocks)
 {
     const auto value = [](std::size_t i) { return 1 / (static_cast<double>(i) - 0.3); };

@@ -7,6 +7,7 @@ LC_ALL=C.UTF-8
 export LC_ALL
 program=$1 library=$2 backend=$3 source=$4 emulator=${5:-}
 shaker=$source/examples/data/vibration_shaker_5khz.csv
+furnace=$source/examples/data/thermocouple_k_250c.csv
 bell=$source/tests/data/cli/audio_bell_44k1.wav
 
 work=$(mktemp -d)
@@ -67,7 +68,7 @@ says "quordsp "
 run 0 --help
 says "spectrum"
 says "3  the analysis backend is missing"
-for command in filter spectrum info; do
+for command in filter spectrum detrend vibration thermocouple wav info; do
     run 0 $command --help
     says "Exit codes"
 done
@@ -87,7 +88,10 @@ complains "status -5093"
 run 3 $filter_x $bandpass -o f.csv --plot f.svg
 complains "the analysis backend could not be found or loaded (status -5093)"
 complains "quordsp info"
-only_left ""
+# The library's own work needs no backend.
+run 0 vibration "$shaker" --column x_g --rate 5000 --from 3 --to 4 -o v.csv
+complains "no strongest line: the analysis backend could not be found"
+only_left "v.csv"
 # Beside the library, which is the last place on Linux and part of the system's search on Windows.
 cp "$backend"/*nianlys* "$(dirname "$alone")" 2>../stderr
 [ -n "$emulator" ] || cp "$backend"/*nianlys* "$work/alone/lib"
@@ -127,6 +131,183 @@ run 0 spectrum "$bell" -o bell.csv
 says "132300 samples of channel 1 (FS) at 44100 Hz"
 only_left "bandpass.csv bandstop.csv bell.csv highpass.csv lowpass.csv"
 
+# Velocity and displacement of the same sine: 10.13 g of 9.78 m/s2 are 157.7 mm/s and 0.251 mm at 100 Hz. The
+# trapezoidal rule takes 0.13 % and 0.26 % of these.
+run 0 vibration "$shaker" --column x_g --rate 5000 --from 3 --to 7 -o v.csv --plot v.svg --view 5 5.1
+says "20000 samples of x (g) at 5000 Hz, integrated in blocks of 1 s that overlap by half"
+grep -qE '^acceleration at (99\.99|100\.00)[0-9]* Hz: 99\.[01][0-9]* m/s2 peak, 10\.13 g' ../stdout ||
+    fail "$what: the acceleration"
+grep -qE '^velocity at .* Hz: 157\.[4-8] mm/s peak' ../stdout || fail "$what: the velocity"
+grep -qE '^displacement at .* Hz: 0\.2(49|50|51)[0-9]? mm peak' ../stdout || fail "$what: the displacement"
+[ "$(head -n 1 v.csv)" = "time_s,acceleration_m/s2,velocity_mm/s,displacement_mm" ] || fail "$what: the columns"
+[ "$(wc -l <v.csv)" -eq 20001 ] || fail "$what: the number of rows"
+grep -qF '>displacement (mm)<' v.svg || fail "$what: the axes"
+run 1 vibration "$shaker" --column x_g --rate 5000 --sensitivity 50 -o w.csv
+complains "column 'x' is in g, no unit of voltage"
+run 1 vibration "$bell" -o w.csv
+complains "column 'channel 1' is in FS, no unit of acceleration"
+run 1 vibration "$shaker" --column x_g --rate 5000 --block 0.001 -o w.csv
+complains "a --block needs 32 samples, that is 0.0064 s"
+run 1 vibration "$shaker" --column x_g --rate 5000 --view 9 10 -o w.csv --plot w.svg
+complains "the two times of --view"
+run 1 vibration "$shaker" --column x_g --rate 5000 --velocity-bounds 5 -5 -o w.csv
+complains "--velocity-bounds must ascend"
+printf 'x_g\n1\n2\n' >few.csv
+run 2 vibration few.csv --rate 5000 -o w.csv
+complains "the signal has 2 samples, too few to integrate"
+run 5 vibration "$shaker" --column x_g --rate 5000 -o none/v.csv
+run 1 vibration "$shaker" --column x_g --rate 5000 --view 5 5.1 -o w.csv
+complains "--plot"
+run 0 vibration "$shaker" --column x_g --rate 5000 --from 3 --to 7 --block 0.1 -o v.csv
+complains "much of its velocity and displacement is lost"
+only_left "few.csv v.csv v.svg"
+
+# The furnace of the recording's description: 248.70 to 252.54 degC, mean 250.18 degC.
+run 0 thermocouple "$furnace" --type K --cold-junction-column cold_junction_degC -o t.csv --plot t.svg
+says "116 rows of emf, type K, cold junction at 22.2 to 22.22 degC"
+says "minimum: 248.70"
+grep -qE '^mean: +250\.1[78]' ../stdout || fail "$what: the mean"
+says "maximum: 252.54"
+[ "$(head -n 1 t.csv)" = "timestamp,time_s,emf_mV,cold_junction_degC,temperature_degC" ] || fail "$what: the columns"
+grep -q '^2026-05-26 09:04:28.398,1.031,9.2841395764367,22.202365185358303,250.4' t.csv || fail "$what: the second row"
+grep -qF '>time after 2026-05-26 09:04:27.367 (s)<' t.svg || fail "$what: the axis"
+run 0 thermocouple "$furnace" --type K --cold-junction 22.2 --unit F --rate 1 -o t.csv
+grep -qE '^mean: +482\.[23][0-9]* degF' ../stdout || fail "$what: the mean in degF"
+[ "$(head -n 1 t.csv)" = "time_s,emf_mV,cold_junction_degC,temperature_degF" ] || fail "$what: the columns"
+run 0 thermocouple "$furnace" --type S --cold-junction 22.2 -o t.csv
+complains "the cold junction adds the voltage of type K, not that of type S"
+run 1 thermocouple "$furnace" --type K -o u.csv
+complains "the temperature of the cold junction is missing"
+run 1 thermocouple "$furnace" --type Q --cold-junction 22 -o u.csv
+run 1 thermocouple "$furnace" --type K --cold-junction 2000 -o u.csv
+complains "a cold junction at 2000 degC cannot be compensated"
+run 2 thermocouple "$furnace" --type K --cold-junction-column none -o u.csv
+complains "'timestamp', 'cold_junction_degC', 'emf_mV'"
+printf 'emf_mV\n9\n70\n-7\n9\n' >range.csv
+run 2 thermocouple range.csv --type K --cold-junction 0 -o u.csv --plot u.svg
+complains "range.csv: data row 2: 70 mV with the cold junction at 0 degC is out of the range of type K"
+complains "it is the first of 2 (status -20322)"
+only_left "range.csv t.csv t.svg"
+printf 'emf_mV\n9\n70\n-7\n9\n' >range.csv
+run 0 thermocouple range.csv --type K --cold-junction 0 --gaps -o u.csv --plot u.svg
+says "out of range: 2 rows, the first is data row 2: 70 mV"
+grep -q '^2,70,0,nan$' u.csv || fail "$what: the row out of range"
+printf 'emf_mV\n70\n' >range.csv
+run 2 thermocouple range.csv --type K --cold-junction 0 --gaps -o w.csv
+run 1 thermocouple range.csv --type J --cold-junction 0 --gaps -o w.csv
+complains "--gaps is for type K"
+only_left "range.csv u.csv u.svg"
+
+# What the library converts without a word: 0 mV by type B, and voltages that no thermocouple gives.
+printf 'emf_mV\n0\n0.02\n1\n' >b.csv
+run 0 thermocouple b.csv --type B --cold-junction 0 -o u.csv
+complains "2 rows outside the published range of type B, 0.291 to 13.82 mV; the first is data row 1: 0 mV"
+printf 'emf_mV\n1\n-5\n25\n' >b.csv
+outside() {
+    run 0 thermocouple b.csv --type "$1" --cold-junction 0 -o u.csv
+    complains "$2 outside the published range of type $1, "
+    complains "the first is data row $3 with the cold junction at 0 degC"
+}
+outside S "2 rows" "2: -5 mV"
+outside R "2 rows" "2: -5 mV"
+outside N "1 row" "2: -5 mV"
+outside T "1 row" "3: 25 mV"
+printf 'emf_mV\n10\n-3\n' >b.csv
+run 0 thermocouple b.csv --type K --cold-junction 0 -o u.csv
+says "2 rows of emf"
+complains "1 row where the library departs from the published function of type K, from -5.891 to 0 mV"
+complains "the first is data row 2: -3 mV"
+# A cold junction at 100 degC lifts the voltage to 1.1 mV.
+run 0 thermocouple b.csv --type K --cold-junction 100 -o u.csv
+[ ! -s ../stderr ] || fail "$what: a warning"
+printf 'emf_V\n1\n1e306\n' >b.csv
+run 2 thermocouple b.csv --type S --cold-junction 0 -o v.csv
+complains "b.csv:3: column 'emf_V' is too large a number"
+printf 'emf_mV\n1\n1e300\n' >b.csv
+run 2 thermocouple b.csv --type S --cold-junction 0 -o v.csv
+complains "b.csv: data row 2: 1e+300 mV with the cold junction at 0 degC is out of the range of type S"
+printf 'time_s,emf_mV\n1716714267,1\n1716714268,2\n' >b.csv
+run 0 thermocouple b.csv --type K --cold-junction 0 -o u.csv --plot u.svg
+grep -qF '>time after 1716714267 s (s)<' u.svg || fail "$what: the axis"
+grep -q '^1716714268,2,' u.csv || fail "$what: the times of the table"
+only_left "b.csv u.csv u.svg"
+
+# A parabola with a bend, known by hand: order 2 leaves nothing of it, order 1 the parabola.
+awk 'BEGIN { print "t_s,x_V"; for (i = 0; i < 101; ++i) { b = i > 50 ? (i - 50) / 10 : 0
+    print i / 10 "," 3 + i / 10 + 2 * b * b } }' >bend.csv
+run 0 detrend bend.csv --order 2 --breakpoints 5 -o d.csv --plot d.svg
+says "101 samples of x (V) at 10 Hz: trend of order 2 with 1 breakpoint removed"
+grep -qE '^after:  mean \S+ V, rms [0-9.]+e-1[3-9] V' ../stdout || fail "$what: something is left"
+[ "$(head -n 1 d.csv)" = "time_s,input_V,trend_V,detrended_V" ] || fail "$what: the columns"
+run 0 detrend bend.csv --order 2 --breakpoint-samples 51 -o d.csv
+grep -qE '^after:  mean \S+ V, rms [0-9.]+e-1[3-9] V' ../stdout || fail "$what: something is left"
+run 0 detrend bend.csv --order 0 -o d.csv
+says "trend:  16.5 V to 16.5 V"
+run 1 detrend bend.csv --breakpoints 5,11 -o e.csv
+complains "a breakpoint does not lie inside the signal"
+complains "between 0 s and 10 s, samples 1 and 101"
+run 1 detrend bend.csv --breakpoints 5,5 -o e.csv
+complains "two breakpoints are the same"
+run 1 detrend bend.csv --order 60 --breakpoints 5 -o e.csv
+complains "a trend with 121 coefficients needs as many samples, not 101"
+run 1 detrend bend.csv --order -1 -o e.csv
+run 1 detrend bend.csv --order 1.5 -o e.csv
+complains "'1.5' is not a whole number"
+# Fits with next to equal columns, whose rounding errors are no result.
+awk 'BEGIN { print "x_V"; for (s = 1; i++ < 101; s = s * 16807 % 2147483647) print s / 1e9 }' >noise.csv
+for trend in "--order 100" "--order 40" "--breakpoint-samples 50.2,50.4,50.6" "--breakpoint-samples 100.2,100.4" \
+    "--order 3 --breakpoint-samples 50,51,52,53,54,55"; do
+    run 1 detrend noise.csv --rate 10 $trend -o e.csv
+    complains "there is no single trend that fits best"
+done
+run 1 detrend bend.csv --breakpoints 5 --breakpoint-samples 51 -o e.csv
+run 5 detrend bend.csv -o none/e.csv
+run 0 detrend noise.csv --rate 10 --order 3 --breakpoint-samples 20,40,60,80 -o d.csv
+only_left "bend.csv d.csv d.svg noise.csv"
+
+# WAV in, WAV out, and what does not fit into a WAV file.
+run 0 wav "$bell" -o b.wav --bits 24 --channels 2
+says "132300 samples of channel 1 (FS) at 44100 Hz: 24 bits, 2 channels, 793844 bytes"
+[ "$(wc -c <b.wav)" -eq 793844 ] || fail "$what: the size"
+run 0 spectrum b.wav --column 2 --amplitude peak -o b.csv
+cp ../stdout ../first
+run 0 spectrum "$bell" --amplitude peak -o b.csv
+[ "$(grep '^strongest line' ../first)" = "$(grep '^strongest line' ../stdout)" ] ||
+    fail "$what: another line than that of b.wav"
+run 0 wav "$shaker" --column x_g --rate 5000 --format stereo16 --normalize -o s.wav
+says "clipped:    0 samples"
+[ "$(wc -c <s.wav)" -eq 160056 ] || fail "$what: the size"
+run 0 wav "$shaker" --column x_g --rate 5000 --full-scale 10 -o s.wav
+complains "samples lie beyond full scale (10 g), the farthest at 10."
+complains "they are clipped"
+echo older >x.wav
+run 1 wav "$shaker" --column x_g --rate 5000 --format stereo16 --full-scale 10 -o x.wav
+complains "stereo16 would wrap them"
+[ "$(cat x.wav)" = older ] || fail "$what: the older file is lost"
+run 1 wav "$shaker" --column x_g --rate 5000 --format stereo16 --bits 24 -o y.wav
+complains "stereo16 has 16 bits and 2 channels"
+run 1 wav "$shaker" --column x_g --rate 0.3 -o y.wav
+complains "a WAV file cannot have a rate of 0.3 Hz"
+run 0 wav "$shaker" --column x_g --rate 4999.9 --normalize -o s.wav
+complains "the rate of 4999.9 Hz is written as 5000 Hz"
+run 1 wav "$shaker" --column x_g --rate 5000 --normalize --channels 60000 -o y.wav
+complains "is too large"
+run 1 wav "$shaker" --column x_g --rate 5000 --bits 12 -o y.wav
+run 1 wav "$shaker" --column x_g --rate 5000 --normalize --full-scale 2 -o y.wav
+run 5 wav "$bell" --full-scale 0.01 -o none/y.wav
+[ "$(wc -l <../stderr)" -eq 2 ] || fail "$what: it says more than the error"
+run 1 wav "$bell" --from 1 --to 1.001 --channels 40000 -o y.wav
+complains "a WAV file cannot hold 16 bits, 40000 channels"
+run 1 wav "$shaker" --column x_g --rate 4e9 -o y.wav
+complains "another --rate plays the signal slower"
+only_left "b.csv b.wav s.wav x.wav"
+folder=$(printf '\344\270\255 \303\244')
+mkdir "$folder"
+run 0 wav "$bell" -o "$folder/$folder.wav"
+is_there "$folder/$folder.wav"
+[ "$(ls -A "$folder" | wc -l)" -eq 1 ] || fail "$what: something is left behind"
+only_left "$folder"
+
 # A file name outside ASCII, with blanks.
 name=$(printf 'm\303\244\303\237 und \344\270\255.csv')
 printf 't_s,x_V\n0,1\n0.1,2\n0.2,1\n0.3,2\n' >"$name"
@@ -140,10 +321,10 @@ only_left "$name out_$name"
 run 1
 complains "--help"
 complains "a command is missing"
-complains "the commands are filter, spectrum, info"
+complains "the commands are filter, spectrum, detrend, vibration, thermocouple, wav, info"
 run 1 nonsense
 complains "there is no command 'nonsense'"
-complains "the commands are filter, spectrum, info"
+complains "the commands are filter, spectrum, detrend, vibration, thermocouple, wav, info"
 run 0 --help
 says "[OPTIONS] COMMAND"
 run 1 filter "$shaker" --rate 5000 -o f.csv
@@ -151,6 +332,8 @@ complains "--response"
 run 1 $filter_x --response bandpass --order 2 --cutoff 90 -o f.csv
 complains "takes 2 --cutoff frequencies, not 1"
 run 1 $filter_x --response bandpass --order 2 --cutoff x -o f.csv
+run 1 $filter_x --response lowpass --order 1.5 --cutoff 9 -o f.csv
+complains "'1.5' is not a whole number"
 run 1 $filter_x --response roundpass --order 2 --cutoff 9 -o f.csv
 run 1 spectrum "$shaker" -o s.csv
 complains "--rate"
@@ -164,6 +347,8 @@ run 1 spectrum "$bell" --rate 5000 -o s.csv
 only_left ""
 printf 'x\n1\n2\n' >same.csv
 run 1 spectrum same.csv --rate 1 -o same.csv
+complains "different files"
+run 1 spectrum same.csv --rate 1 -o new.csv --plot ../out/new.csv
 complains "different files"
 only_left "same.csv"
 
@@ -181,6 +366,7 @@ run 2 spectrum bad.csv --rate 1 -o s.csv
 complains "bad.csv:3: column 'x': '?[2J' is not a number"
 printf 'x_m/s2\n0.1\n' >short.csv
 run 0 spectrum short.csv --rate 1 -o s.csv
+says "1 sample of x (m/s2)"
 says "strongest line: none, the signal is too short"
 awk 'BEGIN { print "x_m/s2"; for (i = 0; i < 100; ++i) print 0.1 }' >constant.csv
 run 0 spectrum constant.csv --rate 1 --power -o p.csv --plot p.svg
@@ -224,6 +410,10 @@ if [ -z "$emulator" ]; then
     (trap '' XFSZ && ulimit -f 64 && "$program" $filter_x $bandpass -o f.csv) >../stdout 2>../stderr
     [ $? -eq 5 ] || fail "$what: the exit code"
     complains "cannot write f.csv"
+    what="wav with a full disk"
+    (trap '' XFSZ && ulimit -f 64 && "$program" wav "$bell" -o y.wav) >../stdout 2>../stderr
+    [ $? -eq 5 ] || fail "$what: the exit code"
+    complains "cannot write y.wav"
     only_left ""
 fi
 

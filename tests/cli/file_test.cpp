@@ -31,6 +31,35 @@ TEST(ReadFile, RefusesAFolder)
     EXPECT_THAT(messageOf([&] { readFile(folder / ""); }), HasSubstr("it is a folder"));
 }
 
+TEST(SameFile, KnowsAFileThatIsNotThereByItsPlace)
+{
+    const auto here = std::filesystem::current_path();
+    EXPECT_TRUE(sameFile("none.csv", here / "none.csv"));
+    EXPECT_TRUE(sameFile("a/../none.csv", "./none.csv"));
+    EXPECT_FALSE(sameFile("none.csv", here / "a/none.csv"));
+    EXPECT_FALSE(sameFile("none.csv", "other.csv"));
+    EXPECT_FALSE(sameFile("", ""));
+}
+
+TEST(SameFile, LooksThroughLinkedFolders)
+{
+    const ScratchFolder folder;
+    std::filesystem::create_directory(folder / "real");
+    std::error_code error;
+    std::filesystem::create_directory_symlink(folder / "real", folder / "linked", error);
+    if (error)
+        GTEST_SKIP() << "the system has no links";
+    EXPECT_TRUE(sameFile(folder / "real/new.csv", folder / "linked/new.csv"));
+}
+
+TEST(SameFile, TakesUpperAndLowerCaseAsTheSystemDoes)
+{
+    const ScratchFolder folder;
+    folder.put("probe", "");
+    EXPECT_EQ(sameFile(folder / u8"new\u00E4.csv", folder / u8"NEW\u00C4.CSV"),
+              std::filesystem::exists(folder / "PROBE"));
+}
+
 TEST(OutputFile, HasItsNameAfterTheCommitOnly)
 {
     const ScratchFolder folder;
@@ -101,6 +130,33 @@ TEST(OutputFile, TakesNamesOutsideAscii)
     file.commit();
     EXPECT_EQ(readFile(name), "x");
     EXPECT_THAT(display(name), HasSubstr("\xC3\xA4\xE4\xB8\xAD.csv"));
+}
+
+TEST(PendingFile, HasATemporaryNameOfAsciiBesideItsTarget)
+{
+    const ScratchFolder folder;
+    const PendingFile file(folder / u8"\u00E4.wav");
+    EXPECT_EQ(file.temporary().parent_path(), file.target().parent_path());
+    for (const char c : display(file.temporary().filename()))
+        EXPECT_TRUE(c > ' ' && c < 0x7F) << c;
+}
+
+TEST(PendingFile, NamesItsTargetAndTheReasonWhenItCannotBeCreated)
+{
+    const ScratchFolder folder;
+    const Failure failure = failureOf([&] { static_cast<void>(PendingFile(folder / "none/f.wav").create()); });
+    EXPECT_EQ(failure.code(), ExitCode::Output);
+    EXPECT_THAT(failure.what(), HasSubstr("f.wav: No such file or directory"));
+}
+
+TEST(PendingFile, GivesItsTargetWhatAnotherHasWritten)
+{
+    const ScratchFolder folder;
+    PendingFile file(folder / "out");
+    std::ofstream(file.temporary()) << "content";
+    file.commit();
+    EXPECT_EQ(ScratchFolder::get(folder / "out"), "content");
+    EXPECT_EQ(folder.fileCount(), 1);
 }
 
 } // namespace

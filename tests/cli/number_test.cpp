@@ -72,5 +72,12 @@ TEST(Number, LooksLikeOneAlsoWhenNoSampleCanBeIt)
         EXPECT_FALSE(looksLikeNumber(text)) << text;
 }
 
+TEST(Counted, SaysOneOfAThingInTheSingular)
+{
+    EXPECT_EQ(counted(0, "sample"), "0 samples");
+    EXPECT_EQ(counted(1, "sample"), "1 sample");
+    EXPECT_EQ(counted(2, "sample"), "2 samples");
+}
+
 } // namespace
 } // namespace quordsp::cli

@@ -40,8 +40,17 @@ Plot twoCurves(const std::vector<double>& one, const std::vector<double>& other)
     return {.title = "x, <lowpass>",
             .subtitle = "file",
             .xLabel = "time (s)",
-            .yLabel = "x (g)",
-            .curves = {{"input", one}, {"filtered", other}}};
+            .panels = {{.yLabel = "x (g)", .curves = {{"input", one}, {"filtered", other}}}}};
+}
+
+Plot threePanels(const std::vector<double>& samples)
+{
+    return {.title = "three",
+            .subtitle = "",
+            .xLabel = "time (s)",
+            .panels = {{.yLabel = "a (g)", .curves = {{"first", samples}}},
+                       {.yLabel = "v (mm/s)", .curves = {{"", samples}}},
+                       {.yLabel = "d (mm)", .curves = {{"third", samples}}}}};
 }
 
 std::size_t countOf(const std::string& text, const std::string& part)
@@ -63,7 +72,7 @@ TEST(Plot, HasALegendForOneCurveToo)
 {
     const std::vector<double> samples{3, 4};
     Plot plot = twoCurves(samples, samples);
-    plot.curves.pop_back();
+    plot.panels[0].curves.pop_back();
     EXPECT_THAT(drawPlot(plot), HasSubstr(">input<"));
 }
 
@@ -72,9 +81,9 @@ TEST(Plot, ShortensTextsToTheirSpace)
     const std::vector<double> samples{3, 4};
     const std::string longText(1000, 'x');
     Plot plot = twoCurves(samples, samples);
-    plot.title = plot.subtitle = plot.xLabel = plot.yLabel = longText;
-    plot.curves[0].name = longText;
-    plot.callout = Callout{1, 4, longText};
+    plot.title = plot.subtitle = plot.xLabel = plot.panels[0].yLabel = longText;
+    plot.panels[0].curves[0].name = longText;
+    plot.panels[0].callout = Callout{1, 4, longText};
     const std::string svg = drawPlot(plot);
     EXPECT_EQ(countOf(svg, "x...x"), 7u);               // the callout stands twice
     EXPECT_EQ(countOf(svg, std::string(130, 'x')), 7u); // of <title>, which is not drawn
@@ -84,7 +93,7 @@ TEST(Plot, LeavesTheSubtitleNoSpaceBesideManyCurves)
 {
     const std::vector<double> samples{3, 4};
     Plot plot = twoCurves(samples, samples);
-    plot.curves.assign(10, {std::string(1000, 'x'), samples});
+    plot.panels[0].curves.assign(10, {std::string(1000, 'x'), samples});
     EXPECT_THAT(drawPlot(plot), Not(HasSubstr(">file<")));
 }
 
@@ -121,6 +130,17 @@ TEST(Plot, LeavesAGapForSamplesThatAreNotFinite)
     EXPECT_THAT(broken, Not(HasSubstr("nan")));
 }
 
+// In the panel of 190 pixels, from 0 to 1.
+TEST(Plot, DrawsADotForASampleAlone)
+{
+    const std::string svg = drawPlot(threePanels({0, NAN, 1, NAN, 0, 0}));
+    EXPECT_THAT(svg, HasSubstr("<circle cx=\"88\" cy=\"274\" r=\"1.5\" fill=\"#1a5fa8\""));
+    EXPECT_THAT(svg, HasSubstr("<circle cx=\"424\" cy=\"84\" r=\"1.5\" fill=\"#1a5fa8\""));
+    EXPECT_EQ(countOf(svg, "<circle"), 6u);
+    EXPECT_EQ(countOf(svg, "<polyline"), 3u);
+    EXPECT_EQ(countOf(drawPlot(threePanels({7})), "<circle"), 3u);
+}
+
 TEST(Plot, SurvivesCurvesWithoutExtentOrWithoutSamples)
 {
     for (const bool logarithmic : {false, true})
@@ -136,7 +156,7 @@ TEST(Plot, SurvivesCurvesWithoutExtentOrWithoutSamples)
                                                    {1, 2, 3}})
             for (const double xStep : {1.0, 1e308, HUGE_VAL, 5e-324}) {
                 Plot plot = twoCurves(samples, samples);
-                plot.logarithmic = logarithmic;
+                plot.panels[0].logarithmic = logarithmic;
                 plot.xStep = xStep;
                 const std::string svg = drawPlot(plot);
                 EXPECT_THAT(svg, Not(HasSubstr("nan")));
@@ -157,7 +177,7 @@ TEST(Plot, DrawsDecadesAtEqualDistances)
 {
     const std::vector<double> samples{0.001, 0.01, 0.1, 1};
     Plot plot = twoCurves(samples, samples);
-    plot.logarithmic = true;
+    plot.panels[0].logarithmic = true;
     EXPECT_THAT(drawPlot(plot), HasSubstr("points=\"88,472 368,342.7 648,213.3 928,84 \""));
 }
 
@@ -165,7 +185,7 @@ TEST(Plot, PointsOutWhatItIsAskedTo)
 {
     const std::vector<double> samples{3, 4};
     Plot plot = twoCurves(samples, samples);
-    plot.callout = Callout{1, 4, "100 Hz, 10 g"};
+    plot.panels[0].callout = Callout{1, 4, "100 Hz, 10 g"};
     EXPECT_THAT(drawPlot(plot), HasSubstr(">100 Hz, 10 g<"));
 }
 
@@ -175,6 +195,55 @@ TEST(Plot, OfALongCurveStaysSmall)
     for (std::size_t i = 0; i < samples.size(); ++i)
         samples[i] = std::sin(static_cast<double>(i));
     EXPECT_LT(drawPlot(twoCurves(samples, samples)).size(), 120000u);
+}
+
+TEST(Plot, LabelsTheAxisOfEachPanelAndTheTimeOnce)
+{
+    const std::string svg = drawPlot(threePanels({1, 2}));
+    for (const char* const label : {">a (g)<", ">v (mm/s)<", ">d (mm)<", ">time (s)<"})
+        EXPECT_EQ(countOf(svg, label), 1u) << label;
+}
+
+// Panels of 190 pixels from 84 on, 38 apart: the samples are at the ends of each axis.
+TEST(Plot, StacksItsPanelsOverOneAxis)
+{
+    const std::vector<double> samples{0, 1};
+    const std::string svg = drawPlot(threePanels(samples));
+    for (const char* const curve : {"\"88,274 928,84 \"", "\"88,502 928,312 \"", "\"88,730 928,540 \""})
+        EXPECT_THAT(svg, HasSubstr(curve));
+    EXPECT_THAT(svg, HasSubstr("viewBox=\"0 0 960 798\""));
+}
+
+TEST(Plot, LeavesACurveWithoutANameOutOfTheLegend)
+{
+    const std::vector<double> samples{0, 1};
+    Plot plot = twoCurves(samples, samples);
+    const std::string whole = drawPlot(plot);
+    plot.panels[0].curves[0].name = "";
+    EXPECT_EQ(countOf(drawPlot(plot), "<text"), countOf(whole, "<text") - 1);
+}
+
+// The plot area is 840 pixels wide and begins at 88.
+TEST(Plot, PutsSamplesWhereTheyAreToldToLie)
+{
+    const std::vector<double> samples{0, 1, 0};
+    const std::vector<double> places{10, 11, 20};
+    Plot plot = threePanels(samples);
+    plot.x = places;
+    EXPECT_THAT(drawPlot(plot), HasSubstr("\"88,274 172,84 928,274 \""));
+}
+
+TEST(Plot, MovesThePlacesByTheStart)
+{
+    const std::vector<double> samples{0, 1, 0};
+    const std::vector<double> places{1716714010, 1716714011, 1716714020};
+    Plot plot = threePanels(samples);
+    plot.x = places;
+    plot.xStart = -1716714010;
+    const std::string svg = drawPlot(plot);
+    EXPECT_THAT(svg, HasSubstr("\"88,274 172,84 928,274 \""));
+    EXPECT_THAT(svg, HasSubstr(">10<"));
+    EXPECT_THAT(svg, Not(HasSubstr("tspan")));
 }
 
 } // namespace

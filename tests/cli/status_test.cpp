@@ -54,5 +54,13 @@ TEST(Status, OfABackendErrorNamesTheCall)
     EXPECT_THAT(failure.what(), HasSubstr("lowpass 3000 Hz: the cut-off must lie above 0"));
 }
 
+TEST(RequireSuccess, FailsForPositiveStatusesToo)
+{
+    requireSuccess(static_cast<AnalysisLibErrType>(0), "call");
+    const Failure failure = failureOf([] { requireSuccess(static_cast<AnalysisLibErrType>(20033), "call"); });
+    EXPECT_EQ(failure.code(), ExitCode::Internal);
+    EXPECT_STREQ(failure.what(), "call: the file cannot be created (status 20033)");
+}
+
 } // namespace
 } // namespace quordsp::cli

@@ -139,5 +139,22 @@ TEST(StrongestLine, IsNoneAtTheLevelOfRounding)
     EXPECT_FALSE(findStrongestLine(samples, 100, levels, 1e-12));
 }
 
+TEST(AmplitudeAt, IsThatOfTheSineAtTheFrequencyBesideOthers)
+{
+    std::vector<double> samples(1000);
+    for (std::size_t i = 0; i < samples.size(); ++i) {
+        const double t = static_cast<double>(i) / 1000;
+        samples[i] =
+            5 + 0.25 * std::sin(2 * std::numbers::pi * 50.3 * t + 1) + 3 * std::cos(2 * std::numbers::pi * 200 * t);
+    }
+    EXPECT_NEAR(amplitudeAt(samples, 1000, 50.3).value(), 0.25, 1e-5);
+    EXPECT_NEAR(amplitudeAt(samples, 1000, 120).value(), 0, 1e-5);
+}
+
+TEST(AmplitudeAt, IsNoneForTooFewSamples)
+{
+    EXPECT_FALSE(amplitudeAt(std::vector<double>(7), 1, 0.1));
+}
+
 } // namespace
 } // namespace quordsp::cli
