@@ -1849,7 +1849,8 @@ QUORDSP_API AnalysisLibErrType QuorDSP_Vibration_Acceleration(double* params, do
 
 /**
  * Acceleration, velocity and displacement of one stream of blocks, integrated by the backend with Simpson's rule.
- * There is no start call: each call goes on from the last values of the call before it, at first from 0.
+ * There is no start call: each call goes on from the last values of the call before it, at first from 0. So a block
+ * that ends in NaN, by a NaN among its samples or by too few of them for the trends, makes all later ones NaN.
  * The velocity is detrended with order 5, the displacement with order 9.
  *
  * Intended: as in QuorDSP_Vibration_Acceleration the interval is that of the rate stored before the call (51200 Hz at
