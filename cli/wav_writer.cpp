@@ -7,6 +7,7 @@
 
 #include "failure.h"
 #include "file.h"
+#include "number.h"
 #include "progress.h"
 #include "status.h"
 
@@ -93,7 +94,7 @@ std::uint64_t WavFormat::fileBytes(std::size_t samples) const
 
 std::string WavFormat::text() const
 {
-    return std::to_string(bits) + " bits, " + std::to_string(channels) + (channels == 1 ? " channel" : " channels");
+    return std::to_string(bits) + " bits, " + counted(static_cast<std::size_t>(channels), "channel");
 }
 
 WavFormat stereo16()

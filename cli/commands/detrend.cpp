@@ -139,7 +139,7 @@ std::string describe(const Options& options, std::size_t breakpoints)
 {
     std::string text = "trend of order " + std::to_string(options.order);
     if (breakpoints > 0)
-        text += " with " + std::to_string(breakpoints) + (breakpoints == 1 ? " breakpoint" : " breakpoints");
+        text += " with " + counted(breakpoints, "breakpoint");
     return text;
 }
 

@@ -84,11 +84,6 @@ std::string describeRow(const ThermocoupleLog& log, std::size_t row)
     return "data row " + std::to_string(row + 1) + ": " + describeVoltage(log, row);
 }
 
-std::string countOfRows(std::size_t count)
-{
-    return std::to_string(count) + (count == 1 ? " row" : " rows");
-}
-
 void requireInRange(const ThermocoupleLog& log, const Temperatures& temperatures, const Options& options)
 {
     const auto& outOfRange = temperatures.outOfRange;
@@ -144,8 +139,8 @@ void warnOfRows(const Affected& rows, const std::string& what, const VoltageRang
                 const std::string& then)
 {
     if (rows.count > 0)
-        warn(countOfRows(rows.count) + what + rounded(range.low) + " to " + rounded(range.high) + " mV; the first is " +
-             describeRow(log, rows.first) + "\n  " + then);
+        warn(counted(rows.count, "row") + what + rounded(range.low) + " to " + rounded(range.high) +
+             " mV; the first is " + describeRow(log, rows.first) + "\n  " + then);
 }
 
 // What the library does and a user would not expect.
@@ -209,13 +204,13 @@ std::vector<OutputColumn> columnsOf(const ThermocoupleLog& log, const Result& re
 
 void print(const ThermocoupleLog& log, const Result& result, const Options& options, const TemperatureUnit& unit)
 {
-    std::cout << countOfRows(log.emf.size()) << " of " << printable(log.quantity) << ", type " << options.type << ", "
-              << describeColdJunction(log) << '\n'
+    std::cout << counted(log.emf.size(), "row") << " of " << printable(log.quantity) << ", type " << options.type
+              << ", " << describeColdJunction(log) << '\n'
               << "minimum: " << rounded(result.lowest) << ' ' << unit.name << '\n'
               << "mean:    " << rounded(result.mean) << ' ' << unit.name << '\n'
               << "maximum: " << rounded(result.highest) << ' ' << unit.name << '\n';
     if (const auto& outOfRange = result.temperatures.outOfRange; !outOfRange.empty())
-        std::cout << "out of range: " << countOfRows(outOfRange.size()) << ", the first is "
+        std::cout << "out of range: " << counted(outOfRange.size(), "row") << ", the first is "
                   << describeRow(log, outOfRange.front()) << '\n';
 }
 

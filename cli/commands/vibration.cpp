@@ -240,7 +240,7 @@ void run(const Options& options)
                            [&samples = record.*quantity.samples](std::size_t i) { return samples[i]; }});
     writeResult(options.output, columns, series.samples.size(),
                 [&] { return plotOf(series, record, line, options, view, describeBlock(block, series)); });
-    std::cout << series.samples.size() << " samples of " << printable(series.label.axis()) << " at "
+    std::cout << counted(series.samples.size(), "sample") << " of " << printable(series.label.axis()) << " at "
               << rounded(series.rate) << " Hz, integrated in " << describeBlock(block, series) << '\n';
     printLine(line);
     warnOfSlowLine(line, static_cast<double>(block) / series.rate);
