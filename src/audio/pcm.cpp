@@ -12,7 +12,7 @@
 #include <cstring>
 
 #include "audio/pcm.h"
-#include "frame/instruction_set.h"
+#include "cpu/instruction_set.h"
 
 namespace quordsp {
 namespace {

@@ -9,7 +9,7 @@
 #include <cstdint>
 
 #include "QuorDSP_DAQ.h"
-#include "frame/instruction_set.h"
+#include "cpu/instruction_set.h"
 #include "numeric/detrend_basis.h"
 #include "numeric/detrend_breakpoints.h"
 

@@ -10,7 +10,7 @@
 #include <cstdint>
 
 #include "QuorDSP_DAQ.h"
-#include "frame/instruction_set.h"
+#include "cpu/instruction_set.h"
 
 namespace quordsp {
 namespace {

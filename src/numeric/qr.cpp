@@ -1,6 +1,6 @@
 #include "numeric/qr.h"
 
-#include "frame/instruction_set.h"
+#include "cpu/instruction_set.h"
 #include "numeric/qr_kernel.h"
 
 namespace quordsp {

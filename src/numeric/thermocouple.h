@@ -1,7 +1,7 @@
 // Thermocouple voltages to temperatures, once the voltage of the cold junction is known.
 #pragma once
 #include "QuorDSP_DAQ.h"
-#include "frame/instruction_set.h"
+#include "cpu/instruction_set.h"
 #include "numeric/thermocouple_tables.h"
 
 namespace quordsp {

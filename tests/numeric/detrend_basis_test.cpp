@@ -8,7 +8,7 @@
 
 #include <gmock/gmock.h>
 
-#include "frame/instruction_set.h"
+#include "cpu/instruction_set.h"
 #include "numeric/signals.h"
 
 namespace quordsp {

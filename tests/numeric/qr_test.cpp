@@ -10,7 +10,7 @@
 #include <gmock/gmock.h>
 #include <xmmintrin.h>
 
-#include "frame/instruction_set.h"
+#include "cpu/instruction_set.h"
 #include "numeric/qr_kernel.h"
 #include "numeric/signals.h"
 #include "reference/householder.h"

@@ -2,7 +2,7 @@
 // is answered by this program: the linker puts its function in the place of the library's own.
 #include <gtest/gtest.h>
 
-#include "frame/instruction_set.h"
+#include "cpu/instruction_set.h"
 #include "reliability/same_results/results.h"
 #include "support/folders.h"
 

@@ -1,4 +1,4 @@
-#include "frame/instruction_set.h"
+#include "cpu/instruction_set.h"
 
 namespace quordsp {
 
