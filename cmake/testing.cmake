@@ -5,7 +5,10 @@ set(gtest_force_shared_crt OFF CACHE BOOL "")
 add_subdirectory(/usr/src/googletest ${PROJECT_BINARY_DIR}/googletest EXCLUDE_FROM_ALL SYSTEM)
 # It is not what the sanitizers look at, and its own speed does not matter: that saves most of its compile time.
 foreach(library gtest gtest_main gmock gmock_main)
-    target_compile_options(${library} PRIVATE -O0 -g0 $<$<BOOL:${QUORDSP_SANITIZE}>:-fno-sanitize=all>)
+    target_compile_options(${library} PRIVATE -O0 -g0)
+    if(QUORDSP_SANITIZE)
+        target_compile_options(${library} PRIVATE -fno-sanitize=all)
+    endif()
 endforeach()
 
 # What the thread sanitizer's preset builds and, by the label of the same name, runs.
