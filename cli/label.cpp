@@ -11,6 +11,13 @@ constexpr std::string_view kUnits[] = {
     "mA", "W",  "Ohm", "FS",   "pct",  "%",  "dB",  "dBA", "C",   "pC",  "kg",   "J",    "T",    "mT", "lx",
 };
 
+struct VoltageUnit {
+    std::string_view name;
+    double volts;
+};
+
+constexpr VoltageUnit kVoltageUnits[] = {{"V", 1}, {"mV", 1e-3}, {"uV", 1e-6}};
+
 bool isKnownUnit(std::string_view text)
 {
     return std::ranges::find(kUnits, text) != std::end(kUnits);
@@ -63,6 +70,12 @@ Label parseLabel(std::string_view columnName)
 std::string columnName(std::string_view quantity, std::string_view unit)
 {
     return unit.empty() ? std::string(quantity) : std::string(quantity) + "_" + std::string(unit);
+}
+
+double voltsPerUnit(std::string_view unit)
+{
+    const auto* found = std::ranges::find(kVoltageUnits, unit, &VoltageUnit::name);
+    return found == std::end(kVoltageUnits) ? 0 : found->volts;
 }
 
 std::string squared(std::string_view unit)

@@ -20,6 +20,9 @@ Label parseLabel(std::string_view columnName);
 // "input" and "g" give "input_g"; without a unit the name stands alone.
 std::string columnName(std::string_view quantity, std::string_view unit);
 
+// How many volts one unit of voltage is; 0 when the unit is another one.
+double voltsPerUnit(std::string_view unit);
+
 // The unit of a square: "g^2", "(m/s2)^2".
 std::string squared(std::string_view unit);
 

@@ -17,17 +17,9 @@
 namespace quordsp::cli {
 namespace {
 
-struct VoltageUnit {
-    std::string_view name;
-    double millivolts;
-};
-
-constexpr VoltageUnit kVoltageUnits[] = {{"mV", 1}, {"V", 1e3}, {"uV", 1e-3}};
-
-const VoltageUnit* voltageUnit(const std::string& column)
+bool isVoltage(const std::string& column)
 {
-    const auto* found = std::ranges::find(kVoltageUnits, std::string_view(parseLabel(column).unit), &VoltageUnit::name);
-    return found == std::end(kVoltageUnits) ? nullptr : found;
+    return voltsPerUnit(parseLabel(column).unit) > 0;
 }
 
 class Reader {
@@ -77,7 +69,7 @@ private:
     [[nodiscard]] std::size_t likelyVoltage() const
     {
         const auto& names = document_.names();
-        if (const auto found = std::ranges::find_if(names, voltageUnit); found != names.end())
+        if (const auto found = std::ranges::find_if(names, isVoltage); found != names.end())
             return static_cast<std::size_t>(found - names.begin());
         std::size_t column = 0;
         while ((time_ && time_->index == column) || coldJunction_ == column)
@@ -88,7 +80,7 @@ private:
     void requireUnits() const
     {
         const std::string unit = parseLabel(name(voltage_)).unit;
-        if (!unit.empty() && !voltageUnit(name(voltage_)))
+        if (!unit.empty() && !isVoltage(name(voltage_)))
             fail("column '" + name(voltage_) + "' is not in mV, V or uV", "choose another --column");
         const std::string degrees = coldJunction_ ? parseLabel(name(*coldJunction_)).unit : "";
         if (!degrees.empty() && degrees != "degC" && degrees != "C")
@@ -100,8 +92,8 @@ private:
 
     [[nodiscard]] double millivolts() const
     {
-        const VoltageUnit* const unit = voltageUnit(name(voltage_));
-        return unit ? unit->millivolts : 1;
+        const std::string unit = parseLabel(name(voltage_)).unit;
+        return unit.empty() ? 1 : 1e3 * voltsPerUnit(unit);
     }
 
     void scale(std::vector<double>& values, double factor, std::size_t column) const

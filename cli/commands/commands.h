@@ -1,7 +1,7 @@
 // The commands of the tool. A new one is a file in this folder and a row here: the row's first word names the function,
-// in namespace command, that adds the command's options to its parser and says what to run.
+// in namespace command, that adds the command's options and says what to run.
 #pragma once
-#include <CLI/CLI.hpp>
+#include "command_line.h"
 
 #define QUORDSP_COMMANDS(ROW)                                                                                          \
     ROW(filter, "Filter a signal: low-pass, high-pass, band-pass or band-stop")                                        \
@@ -14,7 +14,7 @@
 
 namespace quordsp::cli::command {
 
-#define QUORDSP_DECLARE(name, summary) void name(CLI::App& app);
+#define QUORDSP_DECLARE(name, summary) void name(Command& command);
 QUORDSP_COMMANDS(QUORDSP_DECLARE)
 #undef QUORDSP_DECLARE
 

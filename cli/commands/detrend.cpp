@@ -192,30 +192,29 @@ void run(const Options& options)
 
 } // namespace
 
-void detrend(CLI::App& app)
+void detrend(Command& command)
 {
     const auto options = std::make_shared<Options>();
-    addInput(app, options->input);
-    addOutput(app, options->output);
-    addSpan(app, options->span);
-    app.add_option("--order", options->order, "Of the polynomial: 0 the mean, 1 a straight line")
-        ->check(kWhole)
-        ->check(CLI::Range(0, 100))
-        ->capture_default_str();
-    auto* const times = app.add_option("--breakpoints", options->breakpoints,
-                                       "Times at which the trend may bend, with commas between them.\n"
-                                       "With order 0: remove the mean of what lies before")
-                            ->delimiter(',')
-                            ->allow_extra_args(false)
-                            ->check(kNumber)
-                            ->type_name("S,...");
-    app.add_option("--breakpoint-samples", options->breakpointSamples, "The same as samples, counted from 1")
-        ->delimiter(',')
-        ->allow_extra_args(false)
-        ->check(kNumber)
-        ->excludes(times)
-        ->type_name("N,...");
-    app.callback([options] { run(*options); });
+    addInput(command, options->input);
+    addOutput(command, options->output);
+    addSpan(command, options->span);
+    command.option("--order", options->order, "Of the polynomial: 0 the mean, 1 a straight line")
+        .whole()
+        .within(0, 100)
+        .showDefault();
+    command
+        .option("--breakpoints", options->breakpoints,
+                "Times at which the trend may bend, with commas between them.\n"
+                "With order 0: remove the mean of what lies before")
+        .list()
+        .number()
+        .placeholder("S,...");
+    command.option("--breakpoint-samples", options->breakpointSamples, "The same as samples, counted from 1")
+        .list()
+        .number()
+        .excludes("--breakpoints")
+        .placeholder("N,...");
+    command.run([options] { run(*options); });
 }
 
 } // namespace quordsp::cli::command

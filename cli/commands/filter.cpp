@@ -28,12 +28,12 @@ struct Options {
     std::vector<double> cutoff;
 };
 
-std::set<std::string> named(std::string_view FilterDesign::* column)
+std::vector<std::string> named(std::string_view FilterDesign::* column)
 {
     std::set<std::string> names;
     for (const FilterDesign& design : filterDesigns())
         names.emplace(design.*column);
-    return names;
+    return {names.begin(), names.end()};
 }
 
 const FilterDesign& chooseDesign(const Options& options)
@@ -111,30 +111,27 @@ void run(const Options& options)
 
 } // namespace
 
-void filter(CLI::App& app)
+void filter(Command& command)
 {
     const auto options = std::make_shared<Options>();
-    addInput(app, options->input);
-    addOutput(app, options->output);
-    app.add_option("--response", options->response, "What passes")
-        ->required()
-        ->check(CLI::IsMember(named(&FilterDesign::response)));
-    app.add_option("--order", options->order,
-                   "Order of the low-pass prototype, 1 or more; a band filter has twice the poles")
-        ->check(kWhole)
-        ->required();
-    app.add_option("--cutoff", options->cutoff,
-                   "Frequency of half power (-3 dB); two ascending ones for a band.\n"
-                   "INPUT goes before it")
-        ->required()
-        ->expected(1, 2)
-        ->delimiter(',')
-        ->check(kNumber)
-        ->type_name("HZ [HZ]");
-    app.add_option("--family", options->family, "Design")
-        ->check(CLI::IsMember(named(&FilterDesign::family)))
-        ->capture_default_str();
-    app.callback([options] { run(*options); });
+    addInput(command, options->input);
+    addOutput(command, options->output);
+    command.option("--response", options->response, "What passes").required().oneOf(named(&FilterDesign::response));
+    command
+        .option("--order", options->order,
+                "Order of the low-pass prototype, 1 or more; a band filter has twice the poles")
+        .whole()
+        .required();
+    command
+        .option("--cutoff", options->cutoff,
+                "Frequency of half power (-3 dB); two ascending ones for a band.\n"
+                "INPUT goes before it")
+        .required()
+        .values(1, 2)
+        .number()
+        .placeholder("HZ [HZ]");
+    command.option("--family", options->family, "Design").oneOf(named(&FilterDesign::family)).showDefault();
+    command.run([options] { run(*options); });
 }
 
 } // namespace quordsp::cli::command

@@ -85,9 +85,9 @@ void run()
 
 } // namespace
 
-void info(CLI::App& app)
+void info(Command& command)
 {
-    app.callback(run);
+    command.run(run);
 }
 
 } // namespace quordsp::cli::command

@@ -140,18 +140,17 @@ void run(const Options& options)
 
 } // namespace
 
-void spectrum(CLI::App& app)
+void spectrum(Command& command)
 {
     const auto options = std::make_shared<Options>();
-    addInput(app, options->input);
-    addOutput(app, options->output);
-    auto* const amplitude =
-        app.add_option("--amplitude", options->amplitude, "What a line shows of its sine; DC is its value")
-            ->check(CLI::IsMember({"rms", "peak"}))
-            ->capture_default_str();
-    app.add_flag("--power", options->power, "Power, the square of the rms amplitude")->excludes(amplitude);
-    addSpan(app, options->span);
-    app.callback([options] { run(*options); });
+    addInput(command, options->input);
+    addOutput(command, options->output);
+    command.option("--amplitude", options->amplitude, "What a line shows of its sine; DC is its value")
+        .oneOf({"rms", "peak"})
+        .showDefault();
+    command.option("--power", options->power, "Power, the square of the rms amplitude").excludes("--amplitude");
+    addSpan(command, options->span);
+    command.run([options] { run(*options); });
 }
 
 } // namespace quordsp::cli::command

@@ -3,7 +3,6 @@
 #include <cmath>
 #include <iostream>
 #include <memory>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -32,11 +31,11 @@ struct Options {
 };
 
 template <class Row>
-std::set<std::string> letters(std::span<const Row> rows)
+std::vector<std::string> letters(std::span<const Row> rows)
 {
-    std::set<std::string> found;
+    std::vector<std::string> found;
     for (const Row& row : rows)
-        found.emplace(row.letter);
+        found.emplace_back(row.letter);
     return found;
 }
 
@@ -234,38 +233,39 @@ void run(const Options& options)
 
 } // namespace
 
-void thermocouple(CLI::App& app)
+void thermocouple(Command& command)
 {
     const auto options = std::make_shared<Options>();
     InputChoice& input = options->log.input;
-    addPath(app, "INPUT", input.path, "CSV file with one voltage a line")->required()->type_name("");
-    addOutput(app, options->output);
-    app.add_option("--column", input.column,
-                   "Column of the voltage by name or by number from 1.\n"
-                   "Without it: the first in mV, V or uV, else the first that is not time")
-        ->type_name("NAME|INDEX");
-    app.add_option("--type", options->type, "Of the thermocouple")
-        ->required()
-        ->check(CLI::IsMember(letters(thermocoupleTypes())));
-    auto* const constant = app.add_option("--cold-junction", options->log.coldJunction,
-                                          "Temperature of the cold junction. The library adds the voltage that type K\n"
-                                          "has there, whatever the --type; 0 for voltages that are compensated")
-                               ->check(kNumber)
-                               ->type_name("DEGC");
-    app.add_option("--cold-junction-column", options->log.coldJunctionColumn, "The same, row by row, in degC")
-        ->excludes(constant)
-        ->type_name("NAME|INDEX");
-    app.add_option("--unit", options->unit, "Of the temperature: degC, degF, kelvin or degR")
-        ->check(CLI::IsMember(letters(temperatureUnits())))
-        ->capture_default_str();
-    app.add_option("--rate", input.rate,
-                   "Rows a second. Without it: the times of the time column, which may be numbers\n"
-                   "or like 2026-05-26 09:04:27.367; without such a column the rows are counted")
-        ->check(kPositive)
-        ->type_name("HZ");
-    app.add_flag("--gaps", options->gaps,
-                 "Write nan for rows that are out of the range of type K, instead of no file at all");
-    app.callback([options] { run(*options); });
+    command.option("INPUT", input.path, "CSV file with one voltage a line").required().placeholder("");
+    addOutput(command, options->output);
+    command
+        .option("--column", input.column,
+                "Column of the voltage by name or by number from 1.\n"
+                "Without it: the first in mV, V or uV, else the first that is not time")
+        .placeholder("NAME|INDEX");
+    command.option("--type", options->type, "Of the thermocouple").required().oneOf(letters(thermocoupleTypes()));
+    command
+        .option("--cold-junction", options->log.coldJunction,
+                "Temperature of the cold junction. The library adds the voltage that type K\n"
+                "has there, whatever the --type; 0 for voltages that are compensated")
+        .number()
+        .placeholder("DEGC");
+    command.option("--cold-junction-column", options->log.coldJunctionColumn, "The same, row by row, in degC")
+        .excludes("--cold-junction")
+        .placeholder("NAME|INDEX");
+    command.option("--unit", options->unit, "Of the temperature: degC, degF, kelvin or degR")
+        .oneOf(letters(temperatureUnits()))
+        .showDefault();
+    command
+        .option("--rate", input.rate,
+                "Rows a second. Without it: the times of the time column, which may be numbers\n"
+                "or like 2026-05-26 09:04:27.367; without such a column the rows are counted")
+        .positive()
+        .placeholder("HZ");
+    command.option("--gaps", options->gaps,
+                   "Write nan for rows that are out of the range of type K, instead of no file at all");
+    command.run([options] { run(*options); });
 }
 
 } // namespace quordsp::cli::command

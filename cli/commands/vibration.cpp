@@ -54,13 +54,6 @@ struct Line {
     std::optional<double> amplitude[std::size(kQuantities)]; // peak
 };
 
-struct VoltageUnit {
-    std::string_view name;
-    double volts;
-};
-
-constexpr VoltageUnit kVoltageUnits[] = {{"", 1}, {"V", 1}, {"FS", 1}, {"mV", 1e-3}, {"uV", 1e-6}};
-
 [[noreturn]] void wrongUnit(const Series& series, const std::string& what, const std::string& advice)
 {
     throw Failure(ExitCode::Usage,
@@ -70,16 +63,17 @@ constexpr VoltageUnit kVoltageUnits[] = {{"", 1}, {"V", 1}, {"FS", 1}, {"mV", 1e
 // What a sample is multiplied by to be in volts, or in g without a sensitivity.
 double scaleOf(const Series& series, const Options& options)
 {
+    const std::string& unit = series.label.unit;
     if (!options.sensitivity) {
-        const double g = gPerUnit(series.label.unit);
+        const double g = gPerUnit(unit);
         if (g == 0)
             wrongUnit(series, "acceleration", "give the --sensitivity for volts, or choose another --column");
         return g;
     }
-    const auto* unit = std::ranges::find(kVoltageUnits, std::string_view(series.label.unit), &VoltageUnit::name);
-    if (unit == std::end(kVoltageUnits))
+    const double volts = unit.empty() || unit == "FS" ? 1 : voltsPerUnit(unit);
+    if (volts == 0)
         wrongUnit(series, "voltage", "leave out --sensitivity for an acceleration, or choose another --column");
-    return unit->volts;
+    return volts;
 }
 
 Bounds boundsOf(const std::vector<double>& values, const std::string& option)
@@ -247,46 +241,41 @@ void run(const Options& options)
     printWritten(options.output);
 }
 
-CLI::Option* addBounds(CLI::App& app, const std::string& name, std::vector<double>& bounds, const std::string& unit,
-                       const std::string& help)
+Option addBounds(Command& command, const std::string& name, std::vector<double>& bounds, const std::string& unit,
+                 const std::string& help)
 {
-    return app.add_option(name, bounds, help)
-        ->expected(2)
-        ->delimiter(',')
-        ->check(kNumber)
-        ->type_name(unit + " " + unit);
+    return command.option(name, bounds, help).values(2, 2).number().placeholder(unit + " " + unit);
 }
 
 } // namespace
 
-void vibration(CLI::App& app)
+void vibration(Command& command)
 {
     const auto options = std::make_shared<Options>();
-    addInput(app, options->input);
-    addOutput(app, options->output);
-    addSpan(app, options->span);
-    app.add_option("--sensitivity", options->sensitivity,
-                   "Of the accelerometer, for a column in volts.\n"
-                   "Without it the column is an acceleration, in g when its name tells no unit")
-        ->check(kPositive)
-        ->type_name("MV/G");
-    app.add_option("--offset", options->offset, "Added to the acceleration")
-        ->check(kNumber)
-        ->type_name("G")
-        ->capture_default_str();
-    app.add_option("--block", options->block,
-                   "Length of the blocks, each of which loses its trends: a polynomial of order 5\n"
-                   "from the velocity, of order 15 from the displacement. A longer block keeps\n"
-                   "slower motion and more drift: 12 periods in a block keep 95 % of their\n"
-                   "displacement, 5 lose most. Default: 1 s, within 32 to 46341 samples")
-        ->check(kPositive)
-        ->type_name("S");
-    addBounds(app, "--velocity-bounds", options->velocityBounds, "MM/S",
+    addInput(command, options->input);
+    addOutput(command, options->output);
+    addSpan(command, options->span);
+    command
+        .option("--sensitivity", options->sensitivity,
+                "Of the accelerometer, for a column in volts.\n"
+                "Without it the column is an acceleration, in g when its name tells no unit")
+        .positive()
+        .placeholder("MV/G");
+    command.option("--offset", options->offset, "Added to the acceleration").number().placeholder("G").showDefault();
+    command
+        .option("--block", options->block,
+                "Length of the blocks, each of which loses its trends: a polynomial of order 5\n"
+                "from the velocity, of order 15 from the displacement. A longer block keeps\n"
+                "slower motion and more drift: 12 periods in a block keep 95 % of their\n"
+                "displacement, 5 lose most. Default: 1 s, within 32 to 46341 samples")
+        .positive()
+        .placeholder("S");
+    addBounds(command, "--velocity-bounds", options->velocityBounds, "MM/S",
               "What the velocity may reach before it loses its trend");
-    addBounds(app, "--displacement-bounds", options->displacementBounds, "MM",
+    addBounds(command, "--displacement-bounds", options->displacementBounds, "MM",
               "What the displacement may reach before it loses its trend");
-    addBounds(app, "--view", options->view, "S", "Draw only what lies between these times")->needs("--plot");
-    app.callback([options] { run(*options); });
+    addBounds(command, "--view", options->view, "S", "Draw only what lies between these times").needs("--plot");
+    command.run([options] { run(*options); });
 }
 
 } // namespace quordsp::cli::command

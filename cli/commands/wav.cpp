@@ -113,28 +113,28 @@ void run(const Options& options)
 
 } // namespace
 
-void wav(CLI::App& app)
+void wav(Command& command)
 {
     const auto options = std::make_shared<Options>();
-    addInput(app, options->input);
-    addPath(app, "-o,--output", options->output, "WAV file to write")->required()->type_name("OUT.wav");
-    addSpan(app, options->span);
-    app.add_option("--format", options->format, "PCM as the other options say, or 16 bits in two equal channels")
-        ->check(CLI::IsMember({"pcm", "stereo16"}))
-        ->capture_default_str();
-    app.add_option("--bits", options->bits, "Of a sample, with pcm (default: 16)")
-        ->check(CLI::IsMember({8, 16, 24, 32}));
-    app.add_option("--channels", options->channels, "All the same, with pcm (default: 1)")
-        ->check(CLI::Range(1, kMostChannels))
-        ->type_name("N");
-    auto* const fullScale =
-        app.add_option("--full-scale", options->fullScale,
-                       "The value that becomes full scale, in the unit of the column (default: 1).\n"
-                       "What lies beyond is clipped with pcm and refused with stereo16")
-            ->check(kPositive)
-            ->type_name("VALUE");
-    app.add_flag("--normalize", options->normalize, "Take the peak of the signal for full scale")->excludes(fullScale);
-    app.callback([options] { run(*options); });
+    addInput(command, options->input);
+    command.option("-o,--output", options->output, "WAV file to write").required().placeholder("OUT.wav");
+    addSpan(command, options->span);
+    command.option("--format", options->format, "PCM as the other options say, or 16 bits in two equal channels")
+        .oneOf({"pcm", "stereo16"})
+        .showDefault();
+    command.option("--bits", options->bits, "Of a sample, with pcm (default: 16)").oneOf({8, 16, 24, 32});
+    command.option("--channels", options->channels, "All the same, with pcm (default: 1)")
+        .within(1, kMostChannels)
+        .placeholder("N");
+    command
+        .option("--full-scale", options->fullScale,
+                "The value that becomes full scale, in the unit of the column (default: 1).\n"
+                "What lies beyond is clipped with pcm and refused with stereo16")
+        .positive()
+        .placeholder("VALUE");
+    command.option("--normalize", options->normalize, "Take the peak of the signal for full scale")
+        .excludes("--full-scale");
+    command.run([options] { run(*options); });
 }
 
 } // namespace quordsp::cli::command

@@ -47,6 +47,15 @@ TEST(Label, NamesAColumnWithAndWithoutAUnit)
     EXPECT_EQ(columnName("filtered", ""), "filtered");
 }
 
+TEST(Label, TellsHowManyVoltsAUnitIs)
+{
+    EXPECT_EQ(voltsPerUnit("V"), 1);
+    EXPECT_EQ(voltsPerUnit("mV"), 1e-3);
+    EXPECT_EQ(voltsPerUnit("uV"), 1e-6);
+    EXPECT_EQ(voltsPerUnit("g"), 0);
+    EXPECT_EQ(voltsPerUnit(""), 0);
+}
+
 TEST(Label, PutsAUnitOfSeveralPartsInBracketsBeforeItIsSquared)
 {
     EXPECT_EQ(squared("g"), "g^2");
