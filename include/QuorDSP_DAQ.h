@@ -106,7 +106,8 @@
  * Bessel phase normalisation: the prototype is theta(0)/theta(s*S) with the reverse Bessel polynomial theta of
  * degree n and S = theta(0)^(1/n), so it has the high-frequency asymptote of the Butterworth filter of equal order.
  * Its attenuation at the cut-off grows with the order: 3.01 dB (n = 1), 4.77 dB (2), 6.24 dB (3), 7.58 dB (4),
- * 12.59 dB (8).
+ * 12.59 dB (8). The default backend designs Bessel filters up to order 300, which takes a third of a second; orders
+ * above, and ripples or attenuations of any family above 3080 dB, are answered by -20031.
  *
  * IIR filters are designed as analogue prototypes with pre-warped cut-offs and mapped by the bilinear transform.
  * "order" is that of the low-pass prototype: a band-pass or band-stop has 2*order poles. The greatest gain in the
@@ -122,7 +123,7 @@
  *     1 rectangle    2 triangle    3 Hanning    4 Hamming    5 Blackman      (formulas in table W2)
  *
  * Table W2, parameter "window" of QuorDSP_WindFIR_Filter and of all windowed filtering exports. windowParameter is
- * read by the last three only; NaN there selects the default:
+ * read by the last three only, which want it finite, beta >= 0, s > 0, sigma > 0, else -20061; NaN selects the default:
  *      0  rectangle            1
  *      1  Hanning              0.5 - 0.5 cos u
  *      2  Hamming              0.54 - 0.46 cos u
@@ -169,15 +170,19 @@
  *
  * A complex signal is two arrays, real and imaginary parts, on both sides of a call. (The 2-D complex transforms
  * are the exception: they take interleaved pairs.) Filters are real: real and imaginary part are filtered alike,
- * each from zero state. An output array may be either of the input arrays; outRe and outIm must differ. Every such
- * export packs the signal into scratch memory, makes one backend call and unpacks n elements whatever the status,
- * so for n > 0 the outputs are overwritten also when the call failed:
+ * each from zero state unless states are passed. All arrays of a signal have n elements, and so have the state
+ * arrays, however many coefficients there are: states are packed to the length of the signal, never written, and
+ * counted as 0 where they are shorter than the filter. An output array may be either of the input arrays; outRe and
+ * outIm must differ. Every such export packs the signal into scratch memory, makes one backend call and unpacks n
+ * elements whatever the status, so for n > 0 the outputs are overwritten also when the call failed:
  *     - by the one-call IIR filters QuorDSP_Cx{Bw,Bssl,Ch,InvCh,Elp}_{LPF,HPF,BPF,BSF}, except QuorDSP_CxCh_BSF, with a
  *       copy of the input (after -5093, -5094 and the statuses of the default backend);
  *     - by all others that have outRe and outIm, with unspecified values.
- * For n = 0 and n < 0 nothing is read or written; the backend is given the count (for n < 0 with a null block) and
- * its status is returned. When scratch memory for n > 0 cannot be had, -5093 is returned without a backend call and
- * the outputs are untouched.
+ * For n = 0 and n < 0 nothing is read or written; the backend is given the count (for n < 0 with null blocks) and
+ * its status is returned. Scratch memory is one block of 16 bytes a sample for the one-call IIR filters but
+ * QuorDSP_CxCh_BSF, for QuorDSP_FFTEx, QuorDSP_InvFFTEx and QuorDSP_CxSpectrum; two blocks for the others, and another
+ * for each state; one that the backend uses beyond n samples, for states or bins, is longer. When such memory cannot
+ * be had, -5093 is returned without a backend call and the outputs are untouched.
  *
  *
  * SOURCES
@@ -381,6 +386,7 @@ QUORDSP_API AnalysisLibErrType QuorDSP_Bw_BSF(const double* in, int n, double fs
 
 /**
  * Like QuorDSP_Bw_LPF, but Bessel: nearly constant delay in the pass band; fc is that of the phase normalisation.
+ * @param order       1 to 300; above: -20031, above 2^20: -20001
  * @entry AALFunc399
  */
 QUORDSP_API AnalysisLibErrType QuorDSP_Bssl_LPF(const double* in, int n, double fs, double fc, int order, double* out);
@@ -671,7 +677,8 @@ QUORDSP_API AnalysisLibErrType QuorDSP_CxElp_BSF(const double* inRe, const doubl
 /*
  * IIR design. QuorDSP_..._Coef gives the direct form for QuorDSP_IIRFiltering and QuorDSP_ZeroPhaseFiltering;
  * QuorDSP_..._CascadeCoef fills an IIR filter record for QuorDSP_IIRCascadeFiltering, which is the more accurate
- * form from about order 6 on and for narrow bands.
+ * form from about order 6 on and for narrow bands. How far the default backend's sections are from the ideal response,
+ * by family and cut-off, is tabulated in docs/accuracy.md.
  */
 
 /**
@@ -812,8 +819,8 @@ QUORDSP_API AnalysisLibErrType QuorDSP_IIRFiltering(const double* in, int n, con
  * @param inRe       [n]  real parts; only read; may be the same array as outRe or outIm
  * @param inIm       [n]  imaginary parts, likewise
  * @param n               number of samples; for n < 1 no array is touched
- * @param stateARe   [n]  read, without effect
- * @param stateAIm   [n]  read, without effect
+ * @param stateARe   [n]  read, whatever countA is, without effect
+ * @param stateAIm   [n]  likewise
  * @param stateBRe   [n]  real parts of the past inputs in order of time; n elements are read, the first countB-1 are
  *                        used, the newest at index countB-2; where n is smaller the rest counts as 0
  * @param stateBIm   [n]  imaginary parts of the past inputs, likewise
@@ -889,6 +896,7 @@ QUORDSP_API AnalysisLibErrType QuorDSP_ZeroPhaseFiltering(const double* in, int 
  * window w, the coefficients are
  *     low-pass w g(fc,t)    high-pass w (d - g(fc,t))    band-pass w (g(fh,t) - g(fl,t))
  *     band-stop w (d - g(fh,t) + g(fl,t))
+ * The default backend computes each of them within 1e-15 of the largest.
  */
 
 /**
@@ -928,8 +936,8 @@ QUORDSP_API AnalysisLibErrType QuorDSP_Wind_BSF(double fs, double fl, double fh,
 
 /**
  * Like QuorDSP_Wind_LPF, but with a Kaiser window.
- * @param beta   shape of the window, 0 or more: 0 is the rectangle, larger values lower the side lobes and widen the
- *               transition
+ * @param beta   shape of the window, finite, 0 or more, else -20061: 0 is the rectangle, larger values lower the side
+ *               lobes and widen the transition
  * @entry AALFunc112
  */
 QUORDSP_API AnalysisLibErrType QuorDSP_Ksr_LPF(double fs, double fc, int taps, double* coefs, double beta);
@@ -973,7 +981,7 @@ QUORDSP_API AnalysisLibErrType QuorDSP_FIR_Coef(int type, double fs, double fl, 
 
 /**
  * Like QuorDSP_FIR_Coef, but with a window.
- * @param window            code of table W2, else -20061
+ * @param window            code of table W2; -20061 for another one or a bad windowParameter
  * @param windowParameter   parameter of windows 60 to 62; NaN: default
  * @entry AALFunc335    @source O&S, ch. 7; Harris
  */
@@ -989,8 +997,12 @@ QUORDSP_API AnalysisLibErrType QuorDSP_WindFIR_Filter(int type, double fs, doubl
  * @param taps             number of coefficients, 3 or more
  * @param coefs   [taps]   receives the coefficients
  * @param ripple  [1]      receives the largest deviation from the ideal gain, linear (not dB), the same in all bands
+ * @accuracy  Default backend: the deviation of the coefficients over the bands is *ripple within 1 %, and that the
+ *            least possible one within 1 %. Where fewer taps already bring it down to what double can hold (about
+ *            1e-13), these stand between zeros. docs/accuracy.md has measured figures.
  * @return 0; -5093 no backend; -5094 entry missing; -20008 null pointer; -20007 taps; -20023 fs or edges; -20031
- *         the design does not converge; -20001 memory. On failure coefs and ripple are untouched.
+ *         the design does not converge (default backend: also more than 4096 taps); -20001 memory. On failure coefs
+ *         and ripple are untouched.
  * @threads any, on different arrays    @entry AALFunc69    @source Parks & McClellan; O&S, ch. 7
  */
 QUORDSP_API AnalysisLibErrType QuorDSP_EquiRpl_LPF(double fs, double f1, double f2, int taps, double* coefs,
@@ -1043,10 +1055,11 @@ QUORDSP_API AnalysisLibErrType QuorDSP_EquiRpl_BSF(double fs, double f1, double 
  * @param coefs       [taps]          receives the coefficients
  * @param ripple      [1]             receives the largest weighted deviation from the ideal gain, linear
  * @return 0; -5093 no backend; -5094 entry missing; -20008 null array; -20007 taps; -20023 fs, bands or edges;
- *         -20061 type; -20033 the taps must be odd (multiband with gain at fs/2); -20034 the taps must be even, or
- *         -20023 (differentiator or Hilbert transformer with odd taps and last edge fs/2; Hilbert transformer with
- *         first edge 0); -20031 the design does not converge; -20001 memory. On failure coefs and ripple are
- *         untouched.
+ *         -20061 type; -20033 the taps must be odd (multiband with gain at fs/2); -20034 the taps must be even
+ *         (differentiator or Hilbert transformer with last edge fs/2); -20023 Hilbert transformer with first edge 0;
+ *         -20031 the design does not converge (default backend: also more than 4096 taps or 1024 bands); -20001
+ *         memory. On failure coefs and ripple are untouched. Differentiator and Hilbert transformer are
+ *         antisymmetric, in the default backend with the positive half first: their response is +j times the gain.
  * @threads any, on different arrays    @entry AALFunc65    @source Parks & McClellan; O&S, ch. 7
  */
 QUORDSP_API AnalysisLibErrType QuorDSP_Equi_Ripple(int bandCount, const double* amplitudes, const double* weights,
@@ -1058,14 +1071,16 @@ QUORDSP_API AnalysisLibErrType QuorDSP_Equi_Ripple(int bandCount, const double* 
  * F = 2*sidePoints + 1 samples.
  * @param order                             order of the polynomial, 0 <= order < F
  * @param sidePoints                        samples on either side of the middle one, 0 or more
- * @param weights             [F]           weights of the fit; null: all 1
+ * @param weights             [F]           weights of the fit, finite and not negative; null: all 1
  * @param computeDiffFilters                nonzero: fill diffFilters also
  * @param filters             [F*F]         receives the smoothing rows: the first sidePoints rows for the start of a
  *                                          signal, the middle row for its interior, the last sidePoints for its end
  * @param diffFilters         [(order+1)*F] receives the derivative rows: row p times a frame, times p!, is the p-th
  *                                          derivative at the middle for unit spacing; may be null if not to be filled
  * @return 0; -5093 no backend; -5094 entry missing; -20008 null array; -20103 order < 0; -20004 sidePoints; -20037
- *         F <= order; -20041 too many zero weights; -20001 memory. On failure the outputs are untouched.
+ *         F <= order; -20041 a bad weight, too many zero weights, or weights so far apart (1e25 and more) that the
+ *         small ones are lost beside the others; -20001 memory. On failure the outputs are untouched.
+ * @accuracy filters within 1e-15
  * @threads any, on different arrays    @entry AALFunc355    @source Savitzky & Golay
  */
 QUORDSP_API AnalysisLibErrType QuorDSP_SavitzkyGolayCoef(int order, int sidePoints, const double* weights,
@@ -1121,8 +1136,9 @@ QUORDSP_API AnalysisLibErrType QuorDSP_FIRNarrowBandCoef(double fs, double passB
  */
 
 /**
- * FIR filter with the state in the caller's hands: consecutive blocks filter like one long block.
+ * FIR filter with the state in the caller's hands: consecutive blocks filter like one long block, bit for bit.
  *     y[i] = sum over j of coefs[j] x[i-j]
+ * The default backend adds from the newest input to the oldest and takes subnormal numbers for 0.
  * @param in      [n]        samples; only read; may be the same array as out
  * @param n                  number of samples, 1 or more
  * @param coefs   [taps]     coefficients
@@ -1259,7 +1275,9 @@ QUORDSP_API AnalysisLibErrType QuorDSP_CxEquiRpl_BSFiltering(const double* inRe,
                                                              double* outRe, double* outIm);
 
 /**
- * Windowed FIR low-pass filter in one call, from zero state.
+ * Windowed FIR low-pass filter in one call, from zero state. From 192 taps on, and when taps times samples are 3
+ * million or more, the default backend works by Fourier transforms, within 1e-12 sum |coefs| max |in| of
+ * QuorDSP_FIRFiltering.
  * @param in               [n]  samples; only read; may be the same array as out
  * @param n                     number of samples, 1 or more
  * @param taps                  number of coefficients, 1 or more
@@ -1269,7 +1287,7 @@ QUORDSP_API AnalysisLibErrType QuorDSP_CxEquiRpl_BSFiltering(const double* inRe,
  * @param windowParameter       parameter of windows 60 to 62 (60: Kaiser beta); NaN: default
  * @param out              [n]  filtered samples
  * @return 0; -5093 no backend; -5094 entry missing; -20003 n or taps; -20008 null array; -20020 fs or fc; -20061
- *         window; -20001 memory. On failure out is untouched.
+ *         window or windowParameter; -20001 memory. On failure out is untouched.
  * @threads any, on different arrays    @entry AALFunc481    @source O&S, ch. 7; Harris
  */
 QUORDSP_API AnalysisLibErrType QuorDSP_Wind_LPFiltering(const double* in, int n, int taps, double fs, double fc,
@@ -1344,7 +1362,8 @@ QUORDSP_API AnalysisLibErrType QuorDSP_CxWind_BSFiltering(const double* inRe, co
                                                           double windowParameter, double* outRe, double* outIm);
 
 /**
- * Windowed FIR filter of any type in one call, from zero state: the design of QuorDSP_WindFIR_Filter, applied.
+ * Windowed FIR filter of any type in one call, from zero state: the design of QuorDSP_WindFIR_Filter, applied as by
+ * QuorDSP_Wind_LPFiltering.
  * @param in               [n]  samples; only read; may be the same array as out
  * @param n                     number of samples, 1 or more
  * @param type                  filter type 0..3
@@ -1356,8 +1375,8 @@ QUORDSP_API AnalysisLibErrType QuorDSP_CxWind_BSFiltering(const double* inRe, co
  * @param windowParameter       parameter of windows 60 to 62 (60: Kaiser beta); NaN: default
  * @param out              [n]  filtered samples
  * @return 0; -5093 no backend; -5094 entry missing; -20003 n or taps; -20008 null array; -20033 even taps for types
- *         1 and 3; -20020 frequencies of types 0 and 1; -20023 frequencies of types 2 and 3; -20061 type or window;
- *         -20001 memory. On failure out is untouched.
+ *         1 and 3; -20020 frequencies of types 0 and 1; -20023 frequencies of types 2 and 3; -20061 type, window or
+ *         windowParameter; -20001 memory. On failure out is untouched.
  * @threads any, on different arrays    @entry AALFunc480    @source O&S, ch. 7; Harris
  */
 QUORDSP_API AnalysisLibErrType QuorDSP_WindFIR_Filtering(const double* in, int n, int type, int taps, double fs,
@@ -1414,11 +1433,11 @@ QUORDSP_API AnalysisLibErrType QuorDSP_CxFIRNarrowBandFilter(const double* inRe,
  * @param n                number of samples, F or more; less than F: -20008
  * @param order            order of the polynomial, 0 <= order < F
  * @param sidePoints       samples on either side of the middle one, 0 or more
- * @param weights     [F]  weights of the fit; null: all 1
+ * @param weights     [F]  weights of the fit, finite and not negative; null: all 1
  * @param out         [n]  smoothed samples
  * @return 0; -5093 no backend; -5094 entry missing; -20003 n < 1; -20008 null array or n < F; -20103 order < 0;
- *         -20004 sidePoints; -20037 F <= order; -20041 too many zero weights; -20001 memory. On failure out is
- *         untouched.
+ *         -20004 sidePoints; -20037 F <= order; -20041 weights, see QuorDSP_SavitzkyGolayCoef; -20001 memory. On
+ *         failure out is untouched.
  * @threads any, on different arrays    @entry AALFunc356    @source Savitzky & Golay
  */
 QUORDSP_API AnalysisLibErrType QuorDSP_SavitzkyGolayFiltering(const double* in, int n, int order, int sidePoints,
@@ -1441,7 +1460,7 @@ QUORDSP_API AnalysisLibErrType QuorDSP_SavitzkyGolayFiltering_CxInput(const doub
 
 /**
  * Median filter: out[i] is the median of in[i-leftRank] .. in[i+rightRank], where samples outside the signal count
- * as 0; for an even number of values it is the mean of the middle two.
+ * as 0; for an even number of values it is the mean of the middle two. A window that holds a NaN gives NaN.
  * @param in         [n]  samples; only read; may be the same array as out
  * @param n               number of samples, 1 or more
  * @param leftRank        samples before the current one, 0 or more
@@ -1510,7 +1529,7 @@ QUORDSP_API void QuorDSP_DestroyFFTTable(QuorDSP_FFTTable* table);
 /**
  * Discrete Fourier transform of a real signal, of a chosen size, with an optional table and shift. Only the first n
  * bins of the m-point spectrum are handed out: for a zero-padded spectrum in full, pad x and pass n = m.
- * @param x      [n]  signal; only read
+ * @param x      [n]  signal; only read; may be the same array as outRe or outIm
  * @param n           number of samples, 1 or more, and length of the outputs
  * @param m           size of the transform: m > n appends zeros, 0 < m < n takes the first m samples, m <= 0 means n
  * @param p           table for transforms of size m, or null; a table of another size is ignored
@@ -1689,7 +1708,8 @@ QUORDSP_API AnalysisLibErrType QuorDSP_MaxMin1D(const double* in, int64_t n, dou
                                                 double* min, int64_t* minIndex);
 
 /**
- * Sorts samples. NaN goes to the end in either direction.
+ * Sorts samples. NaN goes to the end in either direction. Zeros of both signs are equal. With the default backend they
+ * and NaN keep their order, n more doubles of memory are needed, and ordered samples take no longer than random ones.
  * @param in         [n]  samples; only read; may be the same array as out
  * @param n               number of samples, 1 or more
  * @param direction       0 ascending, nonzero descending
@@ -1704,6 +1724,12 @@ QUORDSP_API AnalysisLibErrType QuorDSP_Sort(const double* in, int n, int directi
  * Peaks or valleys of a signal, which may come in consecutive blocks. A parabola is fitted to every group of width
  * consecutive samples; its vertex gives places between the samples and amplitudes that no sample has. A peak is
  * reported about width/2 samples late, so with blocks perhaps in the next call.
+ *
+ * With the default backend there is a peak where the slope of the parabola at the centre of its group passes from
+ * positive to 0 or less, from one group to the next: of the two that open downwards it is the vertex nearer to the
+ * centre of its group. At either end a vertex within half a sample of the centre of the first or last group is one,
+ * too. Groups with NaN or infinity have no parabola. However a signal is cut into blocks, the peaks have the same bits.
+ * A first block without initialize begins a sequence, as does one after endOfData.
  * @param in                 [n]  samples; only read
  * @param n                       number of samples, 1 or more; fewer than width in the whole sequence give no peaks
  * @param threshold               peaks with a fitted height below it are dropped (valleys: with a bottom above it)
@@ -1716,9 +1742,10 @@ QUORDSP_API AnalysisLibErrType QuorDSP_Sort(const double* in, int n, int directi
  * @param amplitudes         [1]  receives an array [*count]: fitted heights, in the unit of in
  * @param secondDerivatives  [1]  receives an array [*count]: second derivatives for unit spacing, negative for peaks
  * @return 0; -5093 no backend; -5094 entry missing; -20003 n; -20008 null pointer; -20064 width or polarity changed
- *         in the middle of a sequence; -20001 memory. On failure nothing is written. After success the caller frees
- *         the three arrays with FreeAnalysisMem of the backend, also when *count is 0. On Windows they are
- *         announced to the resource tracker of a run-time module that the process has loaded.
+ *         in the middle of a sequence; -20001 memory. On failure nothing is written, and with the default backend the
+ *         sequence is where it was: the block may be given again. After success the caller frees the three arrays
+ *         with FreeAnalysisMem of the backend, also when *count is 0. On Windows they are announced to the resource
+ *         tracker of a run-time module that the process has loaded.
  * @threads any; a sequence of blocks stays on one thread, each thread has its own    @entry AALFunc194
  * @source least-squares parabola: Savitzky & Golay
  */
@@ -1980,7 +2007,7 @@ QUORDSP_API AnalysisLibErrType QuorDSP_WriteWAVFile(const char* fileName, const 
  * @param bandB  [bandCount] Hz, lower edge of each band
  * @param bandC  [bandCount] Hz, upper edge, above the lower one; bands ascend and do not overlap, up to d/2
  * @param bandD  [bandCount] weight of each band's error, > 0; for a differentiator relative to the frequency
- * @param bandCount          number of bands, 1 or more; it may exceed n
+ * @param bandCount          number of bands, 1 or more; it may exceed n; for less than 1 no band array is read
  * @param k                  0 multiband, 1 differentiator, 2 Hilbert transformer
  * @param outA   [n]         receives the coefficients
  * @param outB   [1]         receives the largest weighted deviation from the ideal gain, linear

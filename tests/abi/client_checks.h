@@ -30,6 +30,10 @@ static int checkLibrary(int haveBackend)
                                                   &sample[1], &sample[2], &sample[3], 0, 0);
     if (status != QUORDSP_SUCCESS || !nearlyZero(sample[1] - 5.0))
         return 6;
+    /* by its decorated name, and without a band: there is no design */
+    status = QuorDSP_Parks_McClellanCoef(1, 1.0, sample, sample, sample, sample, 0, 0, out, out);
+    if (status != QUORDSP_BAD_ARGUMENT || out[0] != -1.0)
+        return 7;
     status = QuorDSP_Bw_LPF(impulse, 4, 1000.0, 100.0, 2, out);
     if (!haveBackend)
         return status == QUORDSP_BACKEND_NOT_FOUND && out[0] == -1.0 ? 0 : 3;

@@ -79,9 +79,10 @@ struct Caller;
 
 template <class Result, class... Params>
 struct Caller<Result (*)(Params...)> {
-    static std::string call(Result (*exported)(Params...), ArgumentSource& source)
+    template <class Source>
+    static std::string call(Result (*exported)(Params...), Source& source)
     {
-        const std::tuple<Params...> arguments{source.next<Params>()...}; // braces: from left to right
+        const std::tuple<Params...> arguments{source.template next<Params>()...}; // braces: from left to right
         if constexpr (std::is_void_v<Result>) {
             std::apply(exported, arguments);
             return "n";
@@ -96,8 +97,8 @@ struct Caller<Result (*)(Params...)> {
 template <class Result, class... Params>
 struct Caller<Result (*)(Params...) noexcept> : Caller<Result (*)(Params...)> {};
 
-template <class Function>
-std::string callWith(support::Module::Symbol exported, ArgumentSource source)
+template <class Function, class Source = ArgumentSource>
+std::string callWith(support::Module::Symbol exported, Source source)
 {
     return Caller<Function*>::call(reinterpret_cast<Function*>(exported), source);
 }
