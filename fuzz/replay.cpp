@@ -21,6 +21,18 @@ constexpr struct {
                 {"vibration_euler", fuzz::vibration_euler},
                 {"thermocouple", fuzz::thermocouple},
                 {"snr", fuzz::snr},
+                {"complex", fuzz::complex},
+                {"iir_design", fuzz::iir_design},
+                {"iir_filtering", fuzz::iir_filtering},
+                {"median_filter", fuzz::median_filter},
+                {"peak_detector", fuzz::peak_detector},
+                {"sort", fuzz::sort},
+                {"max_min", fuzz::max_min},
+                {"fir_window", fuzz::fir_window},
+                {"fir_filtering", fuzz::fir_filtering},
+                {"savitzky_golay", fuzz::savitzky_golay},
+                {"equiripple", fuzz::equiripple},
+                {"narrow_band", fuzz::narrow_band},
                 {"write_wav", fuzz::write_wav},
                 {"write_wav_file", fuzz::write_wav_file}};
 

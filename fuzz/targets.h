@@ -14,6 +14,18 @@ Target acceleration;
 Target vibration_euler;
 Target thermocouple;
 Target snr;
+Target complex;
+Target iir_design;
+Target iir_filtering;
+Target median_filter;
+Target peak_detector;
+Target sort;
+Target max_min;
+Target fir_window;
+Target fir_filtering;
+Target savitzky_golay;
+Target equiripple;
+Target narrow_band;
 Target write_wav;
 Target write_wav_file;
 

@@ -6,7 +6,7 @@ packages="
     clang-19 lld-19 llvm-19 clang-format-19 clang-tidy-19 libclang-rt-19-dev g++
     g++-mingw-w64-x86-64-posix wine64 wine
     libsndfile1-dev sndfile-programs sox
-    googletest libbenchmark-dev libcli11-dev libopenblas-serial-dev
+    googletest libbenchmark-dev libcli11-dev libopenblas-serial-dev libgsl-dev libhwy-dev libfftw3-dev
 "
 missing=
 for package in $packages; do

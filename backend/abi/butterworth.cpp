@@ -28,6 +28,30 @@ Status AALFunc17(const double* x, std::int64_t n, double fs, double fl, double f
     return designAndFilter(x, n, {kButterworth, Response::BandStop, order, {fs, fl, fh}}, y);
 }
 
+// CxBw_LPF
+Status AALFunc450(Complex* x, std::int64_t n, double fs, double fc, std::int32_t order, Complex* y) noexcept
+{
+    return designAndFilter(x, n, {kButterworth, Response::LowPass, order, {fs, fc}}, y);
+}
+
+// CxBw_HPF
+Status AALFunc451(Complex* x, std::int64_t n, double fs, double fc, std::int32_t order, Complex* y) noexcept
+{
+    return designAndFilter(x, n, {kButterworth, Response::HighPass, order, {fs, fc}}, y);
+}
+
+// CxBw_BPF
+Status AALFunc452(Complex* x, std::int64_t n, double fs, double fl, double fh, std::int32_t order, Complex* y) noexcept
+{
+    return designAndFilter(x, n, {kButterworth, Response::BandPass, order, {fs, fl, fh}}, y);
+}
+
+// CxBw_BSF
+Status AALFunc453(Complex* x, std::int64_t n, double fs, double fl, double fh, std::int32_t order, Complex* y) noexcept
+{
+    return designAndFilter(x, n, {kButterworth, Response::BandStop, order, {fs, fl, fh}}, y);
+}
+
 // Bw_CascadeCoef
 Status AALFunc18(double fs, double fl, double fh, IirFilter* filter) noexcept
 {

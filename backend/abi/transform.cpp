@@ -1,5 +1,8 @@
 #include "nianlys.h"
 #include "status.h"
+#include "transform/extended.h"
+#include "transform/fft_table.h"
+#include "transform/matrix.h"
 #include "transform/spectra.h"
 #include "transform/transforms.h"
 
@@ -29,10 +32,80 @@ Status AALFunc148(double* re, double* im, std::int64_t n) noexcept
     return guarded([&] { inverseRealFft(re, im, n); });
 }
 
+// CreateFFTTable
+FftTable* AALFunc260(std::int64_t size) noexcept
+{
+    return createTable(size);
+}
+
+// DestroyFFTTable
+void AALFunc261(FftTable* table) noexcept
+{
+    delete table;
+}
+
+// FFTEx
+Status AALFunc262(const double* x, std::int64_t n, std::int64_t fftSize, const FftTable* table, std::int32_t shift,
+                  Complex* y) noexcept
+{
+    return guarded([&] { extendedFft(x, n, fftSize, table, shift != 0, y); });
+}
+
+// CxFFTEx
+Status AALFunc263(const Complex* x, std::int64_t n, std::int64_t fftSize, const FftTable* table, std::int32_t shift,
+                  Complex* y) noexcept
+{
+    return guarded([&] { extendedFft(x, n, fftSize, table, shift != 0, y); });
+}
+
+// InvFFTEx
+Status AALFunc264(const Complex* x, std::int64_t n, const FftTable* table, std::int32_t shifted, double* y) noexcept
+{
+    return guarded([&] { extendedInverseFft(x, n, table, shifted != 0, y); });
+}
+
+// CxInvFFTEx
+Status AALFunc265(const Complex* x, std::int64_t n, const FftTable* table, std::int32_t shifted, Complex* y) noexcept
+{
+    return guarded([&] { extendedInverseFft(x, n, table, shifted != 0, y); });
+}
+
+// FFT2D
+Status AALFunc266(const double* x, std::int64_t rows, std::int64_t columns, std::int64_t resultRows,
+                  std::int64_t resultColumns, std::int32_t shift, Complex* y) noexcept
+{
+    return guarded([&] { matrixFft(x, {rows, columns}, {resultRows, resultColumns}, shift != 0, y); });
+}
+
+// CxFFT2D
+Status AALFunc267(const Complex* x, std::int64_t rows, std::int64_t columns, std::int64_t resultRows,
+                  std::int64_t resultColumns, std::int32_t shift, Complex* y) noexcept
+{
+    return guarded([&] { matrixFft(x, {rows, columns}, {resultRows, resultColumns}, shift != 0, y); });
+}
+
+// InvFFT2D
+Status AALFunc268(const Complex* x, std::int64_t rows, std::int64_t columns, std::int32_t shifted, double* y) noexcept
+{
+    return guarded([&] { matrixInverseFft(x, {rows, columns}, shifted != 0, y); });
+}
+
+// CxInvFFT2D
+Status AALFunc269(const Complex* x, std::int64_t rows, std::int64_t columns, std::int32_t shifted, Complex* y) noexcept
+{
+    return guarded([&] { matrixInverseFft(x, {rows, columns}, shifted != 0, y); });
+}
+
 // Spectrum
 Status AALFunc161(double* x, std::int64_t n) noexcept
 {
     return guarded([&] { powerSpectrum(x, n); });
+}
+
+// CxSpectrum
+Status AALFunc467(const Complex* x, std::int64_t n, double* s) noexcept
+{
+    return guarded([&] { powerSpectrum(x, n, s); });
 }
 
 // AutoPowerSpectrum

@@ -5,13 +5,10 @@ namespace quordsp::backend {
 
 Prototype butterworthPrototype(std::int32_t order, const Tolerances&)
 {
-    Prototype prototype;
-    prototype.sections.reserve(static_cast<std::size_t>(order / 2 + order % 2));
-    // The poles stand k pi / (2 order) off the imaginary axis, k odd; k = order is the real pole.
+    // k pi / (2 order) off the imaginary axis.
     const Real whole = Real{2} * order;
-    for (std::int32_t k = order - 1 + order % 2; k > 0; k -= 2)
-        prototype.sections.push_back({{-sinPi(k, whole), cosPi(k, whole)}});
-    return prototype;
+    const auto section = [whole](std::int32_t k) { return PrototypeSection{{-sinPi(k, whole), cosPi(k, whole)}}; };
+    return {sectionsByQuality(order, section)};
 }
 
 } // namespace quordsp::backend

@@ -6,17 +6,6 @@
 namespace quordsp::backend {
 namespace {
 
-// An unknown response is taken for one with a single cut-off here: it is reported after all the rest.
-void checkFrequencies(Response response, const Frequencies& frequencies)
-{
-    const auto [fs, fl, fh] = frequencies;
-    const Real nyquist = Real{fs} / 2;
-    if (isBand(response))
-        require(fl > 0 && fh > fl && fh < nyquist, Status::Band);
-    else
-        require(fl > 0 && fl < nyquist, Status::Cutoff);
-}
-
 void checkTolerances(const Family& family, const Tolerances& tolerances)
 {
     const auto [ripple, attenuation] = tolerances;
@@ -30,7 +19,7 @@ void checkTolerances(const Family& family, const Tolerances& tolerances)
 void check(const Design& design)
 {
     require(design.order > 0, Status::OrderNotPositive);
-    checkFrequencies(design.response, design.frequencies);
+    requireCutoffs(design.response, design.frequencies);
     checkTolerances(design.family, design.tolerances);
     require(isKnown(design.response), Status::InvalidSelection);
 }

@@ -1,81 +1,79 @@
-// Filtering in direct form I:
-//     y[i] = (b[0] x[i] + b[1] x[i-1] + ... - a[1] y[i-1] - a[2] y[i-2] - ...) / a[0].
+// The recursive half of the direct form: y[i] = (u[i] - a[K] y[i-K] - ... - a[1] y[i-1]) / a[0].
+// The newest output comes last in its sum, and the newest few stay in registers: one product and one difference
+// separate an output from the next. The others are taken off all sums of a group at once; the youngest of them was
+// formed some samples before the group begins, time enough to reach the memory that a whole group is read from.
 #pragma once
+
+#include "iir/delay_line.h"
 
 #include <algorithm>
 #include <cstddef>
-#include <cstdint>
-#include <span>
-#include <vector>
+#include <cstring>
 
 namespace quordsp::backend {
 
-// The newest samples of a signal: count values from before, then the block in hand.
-template <class Sample>
-class History {
+inline constexpr std::size_t kGroup = 4;
+inline constexpr std::size_t kMostRecent = 7;
+
+// P parts a sample.
+template <std::size_t P>
+[[gnu::always_inline]] inline void subtractOlder(double* sums, const double* a, std::size_t K) noexcept
+{
+    using Group [[gnu::vector_size(kGroup * P * sizeof(double))]] = double;
+    Group group, older;
+    std::memcpy(&group, sums, sizeof group);
+    for (std::size_t k = K; k > kMostRecent; --k) {
+        std::memcpy(&older, sums - k * P, sizeof older);
+        group = group - a[k] * older;
+    }
+    std::memcpy(sums, &group, sizeof group);
+}
+
+// R: the number of coefficients to come.
+template <std::size_t P, std::size_t R>
+class RecentOutputs {
 public:
-    History(std::size_t count, std::size_t block, const Sample* past) : values_(count + block), count_{count}
+    [[gnu::always_inline]] RecentOutputs(const double* y, const double* a) noexcept
     {
-        if (past)
-            std::copy_n(past, count, values_.data());
+        std::memcpy(a_, a, sizeof a_);
+        for (std::size_t k = 0; k < R; ++k)
+            std::memcpy(&y_[k], y - (k + 1) * P, sizeof(Row));
     }
 
-    Sample* block() { return values_.data() + count_; }
-    void advance(std::size_t length) { std::copy_n(values_.data() + length, count_, values_.data()); }
-
-    void save(Sample* past) const
+    [[gnu::always_inline]] void finish(double* y) noexcept
     {
-        if (past)
-            std::copy_n(values_.data(), count_, past);
+        Row sum;
+        std::memcpy(&sum, y, sizeof sum);
+        for (std::size_t k = R; k > 0; --k)
+            sum = sum - a_[k] * y_[k - 1];
+        if (a_[0] != 1) [[unlikely]] // otherwise compilers divide anyway and select
+            sum = sum / a_[0];
+        y_.push(sum);
+        std::memcpy(y, &sum, sizeof sum);
     }
 
 private:
-    std::vector<Sample> values_;
-    std::size_t count_;
+    using Row [[gnu::vector_size(P * sizeof(double))]] = double;
+
+    double a_[R + 1];
+    DelayLine<Row, R + 1> y_; // [k]: k + 1 samples ago
 };
 
-// out[i] = sum of b[j] in[i-j]. Coefficient by coefficient, which leaves the samples of a block independent.
-template <class Sample>
-void convolve(const Sample* in, std::size_t length, std::span<const double> b, Sample* out)
+// y holds the sums u and receives the outputs; K outputs of before stand in front of it, room for a group behind it.
+// R = min(K, kMostRecent).
+template <std::size_t P, std::size_t R>
+[[gnu::always_inline]] inline void recur(double* y, std::size_t length, const double* a, std::size_t K) noexcept
 {
-    std::fill_n(out, length, Sample{});
-    for (std::size_t j = 0; j < b.size(); ++j)
-        for (std::size_t i = 0; i < length; ++i)
-            out[i] = out[i] + b[j] * *(in + i - j);
-}
-
-// out holds the sums of the inputs and receives the outputs; the newest output comes last in each sum.
-template <class Sample>
-void recur(Sample* out, std::size_t length, std::span<const double> a)
-{
-    for (std::size_t i = 0; i < length; ++i) {
-        Sample sum = out[i];
-        for (std::size_t k = a.size(); k-- > 1;)
-            sum = sum - a[k] * *(out + i - k);
-        out[i] = sum / a[0];
+    RecentOutputs<P, R> recent{y, a};
+    for (std::size_t done = 0; done < length; done += kGroup) {
+        double* const group = y + done * P;
+        if (R == kMostRecent)
+            subtractOlder<P>(group, a, K);
+        const std::size_t count = std::min(kGroup, length - done);
+#pragma clang loop unroll(disable)
+        for (std::size_t i = 0; i < count; ++i)
+            recent.finish(group + i * P);
     }
-}
-
-// a is not empty; ya and xb hold the last a.size() - 1 outputs and b.size() - 1 inputs, newest last, before and after;
-// null means zeros. x may be y.
-template <class Sample>
-void filterDirect(const Sample* x, std::int64_t n, std::span<const double> a, Sample* ya, std::span<const double> b,
-                  Sample* xb, Sample* y)
-{
-    constexpr std::int64_t kBlock = 1024;
-    History<Sample> inputs(b.empty() ? 0 : b.size() - 1, kBlock, xb);
-    History<Sample> outputs(a.size() - 1, kBlock, ya);
-    for (std::int64_t done = 0; done < n; done += kBlock) {
-        const auto length = static_cast<std::size_t>(std::min(kBlock, n - done));
-        std::copy_n(x + done, length, inputs.block());
-        convolve(inputs.block(), length, b, outputs.block());
-        recur(outputs.block(), length, a);
-        std::copy_n(outputs.block(), length, y + done);
-        inputs.advance(length);
-        outputs.advance(length);
-    }
-    inputs.save(xb);
-    outputs.save(ya);
 }
 
 } // namespace quordsp::backend

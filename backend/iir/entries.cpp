@@ -1,13 +1,14 @@
 #include "iir/entries.h"
 
 #include "extended_precision.h"
-#include "flush_subnormals.h"
-#include "iir/cascade_kernel.h"
-#include "iir/direct_kernel.h"
+#include "iir/cascade.h"
 #include "iir/filter_record.h"
 #include "status.h"
 
+#include <algorithm>
 #include <ranges>
+#include <span>
+#include <vector>
 
 namespace quordsp::backend {
 namespace {
@@ -83,12 +84,12 @@ Status designAndFilter(const Sample* x, std::int64_t n, const Design& design, Sa
         check(design);
         const Coefficients filter = cascadeOf(design, 2);
         std::vector<Sample> state(filter.reverse.size());
-        const FlushSubnormals flush;
-        filterCascade<2>(x, n, state.size() / 2, filter.reverse.data(), filter.forward.data(), state.data(), y);
+        filterCascade(x, n, 2, {state.size() / 2, filter.reverse.data(), filter.forward.data()}, state.data(), y);
     });
 }
 
 template Status designAndFilter(const double*, std::int64_t, const Design&, double*) noexcept;
+template Status designAndFilter(const Complex*, std::int64_t, const Design&, Complex*) noexcept;
 
 Status designDirect(const Design& design, double* a, std::int32_t na, double* b, std::int32_t nb) noexcept
 {
@@ -136,43 +137,5 @@ Status designCascade(const Family& family, const Frequencies& frequencies, const
         filter->reset = 1;
     });
 }
-
-Status filterThroughCascade(const double* x, std::int64_t n, IirFilter* filter, double* y) noexcept
-{
-    return guarded([&] {
-        requirePositiveCount(n);
-        requireArrays(x, y);
-        requireConsistent(filter);
-        if (filter->reset)
-            std::fill_n(filter->state, filter->stateCount, 0.0);
-        filter->reset = 0;
-        const FlushSubnormals flush;
-        const auto run = isBand(Response{filter->type}) ? filterCascade<4, double> : filterCascade<2, double>;
-        run(x, n, sectionCount(filter->order), filter->reverse, filter->forward, filter->state, y);
-    });
-}
-
-template <class Sample>
-Status filterThroughDirect(const Sample* x, std::int64_t n, const double* a, Sample* ya, std::int32_t na,
-                           const double* b, Sample* xb, std::int32_t nb, Sample* y) noexcept
-{
-    return guarded([&] {
-        requirePositiveCount(n);
-        requireArrays(x, y);
-        require((na <= 0 || a) && (nb <= 0 || b), Status::ArraySize);
-        require(na <= 0 || a[0] != 0, Status::DivisionByZero);
-        if (na <= 0 && nb <= 0) {
-            std::copy_n(x, n, y);
-            return;
-        }
-        const double one = 1;
-        const std::span<const double> reverse = na > 0 ? std::span{a, size(na)} : std::span{&one, 1};
-        const FlushSubnormals flush;
-        filterDirect(x, n, reverse, ya, {b, size(nb)}, xb, y);
-    });
-}
-
-template Status filterThroughDirect(const double*, std::int64_t, const double*, double*, std::int32_t, const double*,
-                                    double*, std::int32_t, double*) noexcept;
 
 } // namespace quordsp::backend

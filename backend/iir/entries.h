@@ -10,18 +10,17 @@ namespace quordsp::backend {
 template <class Sample>
 Status designAndFilter(const Sample* x, std::int64_t n, const Design& design, Sample* y) noexcept;
 
+// Of the complex entries, which take no y for "in place".
+inline Status designAndFilter(Complex* x, std::int64_t n, const Design& design, Complex* y) noexcept
+{
+    return designAndFilter<Complex>(x, n, design, y ? y : x);
+}
+
 Status designDirect(const Design& design, double* a, std::int32_t na, double* b, std::int32_t nb) noexcept;
 
 Status designCascade(const Family& family, const Frequencies& frequencies, const Tolerances& tolerances,
                      IirFilter* filter) noexcept;
 
 Status cascadeToDirect(const IirFilter* filter, double* a, std::int32_t na, double* b, std::int32_t nb) noexcept;
-
-// Filters on from the state that the filter keeps.
-Status filterThroughCascade(const double* x, std::int64_t n, IirFilter* filter, double* y) noexcept;
-
-template <class Sample>
-Status filterThroughDirect(const Sample* x, std::int64_t n, const double* a, Sample* ya, std::int32_t na,
-                           const double* b, Sample* xb, std::int32_t nb, Sample* y) noexcept;
 
 } // namespace quordsp::backend

@@ -23,6 +23,17 @@ struct Prototype {
     Real gain = 1;                          // at s = 0
 };
 
+// What section makes of each odd k, from k = order, the real pole of an odd order, down to k = 1, the sharpest.
+template <class Section>
+std::vector<PrototypeSection> sectionsByQuality(std::int32_t order, const Section& section)
+{
+    std::vector<PrototypeSection> sections;
+    sections.reserve(static_cast<std::size_t>(order / 2 + order % 2));
+    for (std::int32_t k = order - 1 + order % 2; k > 0; k -= 2)
+        sections.push_back(section(k));
+    return sections;
+}
+
 struct Tolerances {
     double ripple = 0;      // dB
     double attenuation = 0; // dB
@@ -35,7 +46,15 @@ struct Family {
 };
 
 Prototype butterworthPrototype(std::int32_t order, const Tolerances&);
+Prototype besselPrototype(std::int32_t order, const Tolerances&);
+Prototype chebyshevPrototype(std::int32_t order, const Tolerances&);
+Prototype inverseChebyshevPrototype(std::int32_t order, const Tolerances&);
+Prototype ellipticPrototype(std::int32_t order, const Tolerances&);
 
 inline constexpr Family kButterworth{butterworthPrototype, false, false};
+inline constexpr Family kBessel{besselPrototype, false, false};
+inline constexpr Family kChebyshev{chebyshevPrototype, true, false};
+inline constexpr Family kInverseChebyshev{inverseChebyshevPrototype, false, true};
+inline constexpr Family kElliptic{ellipticPrototype, true, true};
 
 } // namespace quordsp::backend

@@ -42,6 +42,12 @@ inline Real cosPi(Real part, Real whole)
     return sinPi(whole / 2 - part, whole);
 }
 
+// Without the scaling of the language's own division, whose steps differ from one run-time library to the next.
+inline std::complex<Real> quotient(std::complex<Real> a, std::complex<Real> b)
+{
+    return a * std::conj(b) / std::norm(b);
+}
+
 // A square root of z; the other one is its negative.
 inline std::complex<Real> squareRoot(std::complex<Real> z)
 {

@@ -2,28 +2,10 @@
 // map.
 #pragma once
 
+#include "band.h"
 #include "iir/prototype.h"
 
 namespace quordsp::backend {
-
-enum class Response : std::int32_t { LowPass, HighPass, BandPass, BandStop };
-
-// The responses of callers are numbers.
-constexpr bool isKnown(Response response)
-{
-    return response >= Response::LowPass && response <= Response::BandStop;
-}
-
-constexpr bool isBand(Response response)
-{
-    return response == Response::BandPass || response == Response::BandStop;
-}
-
-struct Frequencies {
-    double fs;
-    double fl;     // the cut-off of a low-pass or high-pass filter
-    double fh = 0; // ignored by those
-};
 
 // s2 s^2 + s1 s + s0
 struct Quadratic {

@@ -113,8 +113,11 @@ extern "C" {
 // double precision cannot hold it: when its rounded sections are unstable, or when their gain is off by more than 1e-3
 // of the exact gain at the reference frequency (0; fs/2 for high-pass filters; both for band-stop, the centre for
 // band-pass filters) or at a cut-off. At the reference frequency the gain of low-pass and high-pass filters is exact
-// but for the last bits. From order 2 on, designs succeed with cut-offs down to about 3e-8 sqrt(order) fs, and up to as
-// far from fs/2.
+// but for the last bits. From order 2 on, Butterworth and Bessel designs succeed with cut-offs down to about 3e-8
+// sqrt(order) fs, and up to as far from fs/2, Chebyshev and elliptic ones about 1e-7 order fs, inverse Chebyshev ones
+// as long as their pass band ends above that. Bessel filters end at order 300 (the time grows with its cube, up to a
+// third of a second), ripples and attenuations at 3080 dB; beyond, the design fails. docs/accuracy.md has what the
+// coefficients leave of the response.
 NIANLYS_API Status AALFunc21(const double* x, std::int64_t n, double fs, double fc, std::int32_t order,
                              double* y) noexcept; // Bw_LPF
 NIANLYS_API Status AALFunc20(const double* x, std::int64_t n, double fs, double fc, std::int32_t order,
@@ -214,9 +217,10 @@ NIANLYS_API Status AALFunc62(std::int32_t type, std::int32_t order, double fs, d
                              std::int32_t nb) noexcept; // Elp_Coef
 
 // IIR cascade coefficients into a filter of AllocIIRFilterPtr, whose type and order they follow; arms its reset flag.
-// The sections of 4th order of a band filter are sensitive to rounding: its response is within 1e-9 dB of the ideal one
-// for band edges about fs/4, 1e-5 dB at 1e-3 fs, 1e-2 dB at 1e-4 fs; below about 1e-4 fs the design may fail. The
-// one-call filters run on sections of 2nd order and keep within 1e-8 dB there. Limits of order and gain as above.
+// The sections of 4th order of a band filter are sensitive to rounding: the response of a Butterworth filter is within
+// 1e-9 dB of the ideal one for band edges about fs/4, 1e-5 dB at 1e-3 fs, 1e-2 dB at 1e-4 fs, that of sharper families
+// less (docs/accuracy.md); below about 1e-4 fs the design may fail. The one-call filters run on sections of 2nd order
+// and keep within 1e-8 dB there. Limits of order and gain as above.
 NIANLYS_API Status AALFunc18(double fs, double fl, double fh, IirFilter* filter) noexcept;  // Bw_CascadeCoef
 NIANLYS_API Status AALFunc12(double fs, double fl, double fh, IirFilter* filter) noexcept;  // Bessel_CascadeCoef
 NIANLYS_API Status AALFunc471(double fs, double fl, double fh, IirFilter* filter) noexcept; // Bessel_CascadeCoefEx
@@ -227,10 +231,12 @@ NIANLYS_API Status AALFunc98(double fs, double fl, double fh, double attenuation
 NIANLYS_API Status AALFunc61(double fs, double fl, double fh, double ripple, double attenuation,
                              IirFilter* filter) noexcept; // Elp_CascadeCoef
 
-// IIR filtering, in place allowed. The cascade keeps its state in the filter (the complex one in state: zeros are used
-// and nothing is kept when state is null or of another count), the direct form in the last na - 1 outputs ya and nb - 1
-// inputs xb, newest last; null ya or xb mean zeros. MedianFilter takes samples outside the signal as 0; a negative
-// rightRank means leftRank.
+// IIR filtering, in place allowed. The cascade keeps its state in the filter (the complex one in state, laid out alike:
+// zeros are used and nothing is kept when state is null or of another count), the direct form in the last na - 1
+// outputs ya and nb - 1 inputs xb, newest last; null ya or xb mean zeros. The results have the same bits however a
+// signal is cut into blocks; subnormal numbers count as 0. ZeroPhaseFiltering runs forwards, then backwards, from zeros
+// each time. MedianFilter takes samples outside the signal as 0, the mean of the middle two of an even number, and NaN
+// as soon as a window holds one; a negative rightRank means leftRank; 2^32 samples are too many for a window's memory.
 NIANLYS_API Status AALFunc91(const double* x, std::int64_t n, IirFilter* filter,
                              double* y) noexcept; // IIRCascadeFiltering
 NIANLYS_API Status AALFunc466(const Complex* x, std::int64_t n, IirFilter* filter, ComplexState* state,
@@ -246,8 +252,10 @@ NIANLYS_API Status AALFunc407(const double* x, std::int64_t n, std::int64_t left
                               double* y) noexcept; // MedianFilter
 
 // FIR design by windows: h receives taps coefficients, not rescaled; HP and BS need odd taps. windType: 1 rectangular,
-// 2 triangular, 3 Hanning, 4 Hamming, 5 Blackman. window: 0..9, 11, 30..34, 60 Kaiser (parameter = beta), 61
-// Dolph-Chebyshev (parameter = side lobes, dB), 62 Gaussian (parameter = deviation / length); NaN = its default.
+// 2 triangular, 3 Hanning, 4 Hamming, 5 Blackman. window: 0..9, 11, 30..34, 60 Kaiser (parameter = beta >= 0), 61
+// Dolph-Chebyshev (parameter = side lobes, dB, > 0), 62 Gaussian (parameter = deviation / length, > 0); NaN = its
+// default. A parameter out of its range, infinity included, is an invalid selection; so is a beta that is NaN. The
+// error of a coefficient is at most 1e-15 of the largest one.
 NIANLYS_API Status AALFunc189(double fs, double fc, std::int32_t taps, double* h,
                               std::int32_t windType) noexcept; // Wind_LPF
 NIANLYS_API Status AALFunc188(double fs, double fc, std::int32_t taps, double* h,
@@ -267,9 +275,17 @@ NIANLYS_API Status AALFunc79(std::int32_t type, double fs, double fl, double fh,
 NIANLYS_API Status AALFunc335(std::int32_t type, double fs, double fl, double fh, std::int32_t taps,
                               std::int32_t window, double parameter, double* h) noexcept; // WindFIR_Filter
 
-// Equiripple FIR design (Parks-McClellan). The band edges ascend; ripple receives the largest weighted deviation,
-// linear. Equi_Ripple: edges has two frequencies a band; type 1 multiband, 2 differentiator, 3 Hilbert.
-// Parks_McClellanCoef: the same with type 0, 1, 2.
+// Equiripple FIR design (Parks-McClellan). The band edges ascend; ripple receives the largest weighted deviation that
+// the coefficients have over the bands, linear. High-pass and band-stop filters need an odd number of taps.
+// Equi_Ripple: edges has two frequencies a band; type 1 multiband, 2 differentiator (of slope amplitude * f / fs, the
+// error counting in proportion to f; bands of slope 0 stop), 3 Hilbert transformer. Parks_McClellanCoef: the same with
+// type 0, 1, 2. The last two are antisymmetric and positive first: their response is +j times the amplitude.
+// EvenSize: gain at fs/2 with an even number of taps; OddSize: types 2 and 3 up to fs/2 with an odd one; Band: also
+// type 3 from 0 on, an amplitude that is not finite, a weight that is not positive and finite.
+// The ripple is within 1 % of the least possible one, unless double cannot hold that one: where fewer taps already have
+// a deviation about 1e-13 of the largest amplitude, or coefficients so large that their rounding shows, these stand
+// between zeros. DesignFailed: the exchange does not settle, more than 4096 taps or 1024 bands, or weights more than
+// 1e8 apart where taps would have to be left out. Time grows with the square of the taps.
 NIANLYS_API Status AALFunc69(double fs, double f1, double f2, std::int32_t taps, double* h,
                              double* ripple) noexcept; // EquiRpl_LPF
 NIANLYS_API Status AALFunc68(double fs, double f1, double f2, std::int32_t taps, double* h,
@@ -285,20 +301,27 @@ NIANLYS_API Status AALFunc408(std::int32_t taps, double fs, const Band* bands, s
                               std::int32_t type, double* h, double* ripple) noexcept; // Parks_McClellanCoef
 
 // Savitzky-Golay design: frame F = 2 sidePoints + 1 > polynomialOrder; filters F x F, diffFilters (polynomialOrder + 1)
-// x F.
+// x F. Weights that are negative or not finite, fewer than polynomialOrder + 1 positive ones, and weights so far apart
+// that the small ones are lost beside the others, are answered as "singular".
 NIANLYS_API Status AALFunc355(std::int32_t polynomialOrder, std::int32_t sidePoints, const double* weights,
                               std::int32_t computeDiffFilters, double* filters,
                               double* diffFilters) noexcept; // SavitzkyGolayCoef
 
 // Narrow-band FIR filters: AALFunc491 makes an empty record or returns null, AALFunc409 designs into it, AALFunc492
-// frees it and its two arrays and ignores null. passBand and stopBand are widths; ripple is linear.
+// frees it and its two arrays and ignores null. passBand and stopBand are widths; ripple is linear; centerFrequency is
+// read for types 2 and 3 only, which are stored with interpolation 1 and one image tap. The model and the suppressor
+// have at most 4096 taps each, a filter of types 2 and 3 at most 2^20; beyond, and where a deviation below about 1e-13
+// is asked for, the design fails. All lengths are odd.
 NIANLYS_API FirFilter* AALFunc491() noexcept;            // AllocFIRFilterPtr
 NIANLYS_API void AALFunc492(FirFilter* filter) noexcept; // FreeFIRFilterPtr
 NIANLYS_API Status AALFunc409(double fs, double passBand, double stopBand, double centerFrequency, double ripple,
                               double attenuation, std::int32_t type, FirFilter* filter) noexcept; // FIRNarrowBandCoef
 
-// FIR filtering: n samples out, causal, in place allowed. state = the last taps - 1 inputs, newest last; null means
-// zeros. The designing ones start from zero state.
+// FIR filtering: n samples out, in place allowed. FIRFiltering forms the sums from the newest input to the oldest, with
+// the same bits however the signal is cut into blocks and for real signals and parts of complex ones; state = the last
+// taps - 1 inputs, newest last; null means zeros, and taps <= 0 copies. Subnormal numbers count as 0. The designing
+// ones start from zero state; from 192 taps on, and when taps times samples are 3 million or more, they work by Fourier
+// transforms, within 1e-12 sum |h| max |x| of those sums. Savitzky-Golay filters need n >= F.
 NIANLYS_API Status AALFunc352(const double* x, std::int64_t n, const double* h, double* state, std::int32_t taps,
                               double* y) noexcept; // FIRFiltering
 NIANLYS_API Status AALFunc353(const Complex* x, std::int64_t n, const double* h, Complex* state, std::int32_t taps,
@@ -350,7 +373,8 @@ NIANLYS_API Status AALFunc410(const double* x, std::int64_t n, FirFilter filter,
 NIANLYS_API Status AALFunc411(const Complex* x, std::int64_t n, FirFilter filter,
                               Complex* y) noexcept; // CxFIRNarrowBandFilter
 
-// Fourier transforms of any size; forward unscaled, inverse scaled by 1/N. The first four work in place; ReFFT ignores
+// Fourier transforms of any size; forward unscaled, inverse scaled by 1/N. What they compute for a size is kept for the
+// next call, at most some 50 MB in all, until the module goes. The first four work in place; ReFFT ignores
 // im's values and writes the whole spectrum, ReInvFFT leaves im as it is.
 NIANLYS_API Status AALFunc77(double* re, double* im, std::int64_t n) noexcept;  // FFT
 NIANLYS_API Status AALFunc102(double* re, double* im, std::int64_t n) noexcept; // InvFFT
@@ -387,9 +411,24 @@ NIANLYS_API Status AALFunc10(const double* x, std::int64_t n, double dt, double*
 NIANLYS_API Status AALFunc5(const double* x, std::int64_t n, std::int32_t unwrap, double dt, double* amplitude,
                             double* phase, double* df) noexcept; // AmpPhaseSpectrum
 
-// Statistics, detection, integration. Ties of MaxMin1D: the first; Sort: 0 ascending, else descending, in place
-// allowed; Integrate: Simpson's rule, in place allowed. PeakDetector allocates its three arrays of *count values; the
-// caller frees each with AALFunc238.
+// Statistics, detection, integration. MaxMin1D: of equal values the first counts; NaN is skipped, and nothing but NaN
+// gives NaN at index 0. Sort: 0 ascending, else descending, in place allowed; NaN comes last either way; NaN and zeros
+// of both signs keep their order; it takes 8 n bytes, and ordered samples no more time than random ones. Integrate:
+// y[i] = dt/6 times the sum over j <= i of x[j-1] + 4 x[j] + x[j+1], where x[-1] = initial and x[n] = final, summed in
+// this order; in place allowed.
+//
+// PeakDetector: a least-squares parabola through every width (at least 3) consecutive samples. Where its slope at their
+// centre passes from positive to 0 or less, the vertex of the one before or the one after is a peak: of those that open
+// downwards the one with the vertex nearer to its centre. The first group has a peak, too, if its slope is at most 0,
+// the last one if it is positive, and the vertex within half a sample of the centre. Peaks below the threshold are
+// dropped, all of them if it is NaN. polarity 0: peaks; else valleys, the peaks of the negated signal. A group with NaN
+// or infinity, or whose weighted sums overflow (not below 1e290 for widths up to 1e5), has no parabola.
+// A signal comes in blocks, the first with initialize, the last with endOfData; locations count from its first sample;
+// the results are, to the bit, those of one block. Without initialize a block continues the signal of the calling
+// thread, or begins one if there is none; another width or polarity is then StateNotInitialized. A refused call (and
+// one without memory) has taken nothing: the same block may follow. Between blocks a thread holds 17 KB, from width
+// 1025 on 35 KB and up to 9 bytes a sample of width; endOfData and the end of the thread free it. A call needs no more
+// than 12 n bytes besides. The three arrays have *count values, also if it is 0; the caller frees each with AALFunc238.
 NIANLYS_API Status AALFunc120(const double* x, std::int64_t n, double* max, std::int64_t* maxIndex, double* min,
                               std::int64_t* minIndex) noexcept;                                             // MaxMin1D
 NIANLYS_API Status AALFunc160(const double* x, std::int64_t n, std::int32_t direction, double* y) noexcept; // Sort

@@ -1,7 +1,10 @@
 // What can be told apart though it compares equal, zeros and NaN, is set aside in the order of the input. Everything
 // else is sorted as unsigned integers: the bits of a double, with the sign bit flipped for positive numbers and all
-// bits flipped for negative ones, order as the numbers do. Those are sorted digit by digit from the lowest up, which
-// needs no comparison.
+// bits flipped for negative ones, order as the numbers do. Those are sorted by digits, which needs no comparison and
+// does not depend on their order: by the highest one until the parts fit the cache, then from a low one up.
+//
+// Not from the lowest one: the upper ones, as many as tell n random numbers apart, leave nearly all keys in their
+// places. Where several agree in these digits they are sorted by comparison.
 #include "statistics/sort.h"
 
 #include "buffer.h"
@@ -11,6 +14,7 @@
 #include <array>
 #include <bit>
 #include <cmath>
+#include <functional>
 #include <numeric>
 #include <utility>
 
@@ -18,7 +22,7 @@ namespace quordsp::backend {
 
 namespace {
 
-using Key = std::uint64_t;
+using Key [[gnu::may_alias]] = std::uint64_t; // the caller's array serves as scratch memory
 constexpr Key kSignBit = Key{1} << 63;
 
 // descending: all ones or zero.
@@ -34,48 +38,117 @@ double valueOf(Key key, Key descending)
     return std::bit_cast<double>(key & kSignBit ? key ^ kSignBit : ~key);
 }
 
-constexpr int kDigitBits = 11;
-constexpr std::size_t kDigits = (64 + kDigitBits - 1) / kDigitBits;
+constexpr std::size_t kFewKeys = 128;                   // for which the digits do not pay
+constexpr std::size_t kManyKeys = std::size_t{1} << 15; // beyond the cache
+constexpr int kDigitBits = 8;
 constexpr std::size_t kDigitValues = std::size_t{1} << kDigitBits;
 using Histogram = std::array<std::size_t, kDigitValues>;
 
-std::size_t digitOf(Key key, std::size_t digit)
+// The digits to sort by, from bit `shift` up.
+struct Digits {
+    int shift;
+    std::size_t count;
+
+    std::size_t operator()(Key key, std::size_t digit) const
+    {
+        return key >> (static_cast<std::size_t>(shift) + digit * kDigitBits) & (kDigitValues - 1);
+    }
+};
+
+Digits digitsFor(std::size_t n, int varyingBits)
 {
-    return key >> (digit * kDigitBits) & (kDigitValues - 1);
+    const int wanted = static_cast<int>(std::bit_width(n)) + 12; // signs and exponents tell few samples apart
+    const int count = (std::min(wanted, varyingBits) + kDigitBits - 1) / kDigitBits;
+    return {std::max(varyingBits - count * kDigitBits, 0), static_cast<std::size_t>(count)};
 }
 
-void countDigits(const Key* keys, std::size_t n, std::array<Histogram, kDigits>& histograms)
+using Histograms = std::array<Histogram, 64 / kDigitBits>;
+
+void countDigits(const Key* keys, std::size_t n, Digits digits, Histograms& counts)
 {
     for (std::size_t i = 0; i < n; ++i)
-        for (std::size_t digit = 0; digit < kDigits; ++digit)
-            ++histograms[digit][digitOf(keys[i], digit)];
+        for (std::size_t digit = 0; digit < digits.count; ++digit)
+            ++counts[digit][digits(keys[i], digit)];
 }
 
-void scatter(const Key* from, std::size_t n, std::size_t digit, const Histogram& counts, Key* to)
+void scatter(const Key* from, std::size_t n, Digits digits, std::size_t digit, const Histogram& counts, Key* to)
 {
     Histogram next;
     std::exclusive_scan(counts.begin(), counts.end(), next.begin(), std::size_t{0});
     for (std::size_t i = 0; i < n; ++i)
-        to[next[digitOf(from[i], digit)]++] = from[i];
+        to[next[digits(from[i], digit)]++] = from[i];
 }
 
-// Returns which of the two arrays holds the sorted keys. Below some thousand keys the histograms do not pay.
-const Key* sorted(Key* keys, std::size_t n, Key* scratch)
+// The keys are in order but for the bits below the shift.
+void sortTies(Key* keys, std::size_t n, int shift)
 {
-    if (n < kDigitValues) {
-        std::sort(keys, keys + n);
-        return keys;
+    for (std::size_t begin = 0, end = 0; begin < n; begin = end) {
+        do
+            ++end;
+        while (end < n && keys[end] >> shift == keys[begin] >> shift);
+        if (end - begin > 1)
+            std::sort(keys + begin, keys + end);
     }
-    const auto histograms = std::make_unique<std::array<Histogram, kDigits>>();
-    countDigits(keys, n, *histograms);
-    for (std::size_t digit = 0; digit < kDigits; ++digit) {
-        const Histogram& counts = (*histograms)[digit];
-        if (counts[digitOf(keys[0], digit)] == n)
+}
+
+void sortFromALowDigitUp(Key* keys, std::size_t n, int varyingBits, Key* scratch, Key* target)
+{
+    const Digits digits = digitsFor(n, varyingBits);
+    Histograms counts{};
+    countDigits(keys, n, digits, counts);
+    for (std::size_t digit = 0; digit < digits.count; ++digit) {
+        if (counts[digit][digits(keys[0], digit)] == n)
             continue; // the same in all keys
-        scatter(keys, n, digit, counts, scratch);
+        scatter(keys, n, digits, digit, counts[digit], scratch);
         std::swap(keys, scratch);
     }
-    return keys;
+    if (digits.shift > 0)
+        sortTies(keys, n, digits.shift);
+    if (keys != target)
+        std::copy(keys, keys + n, target);
+}
+
+void sortInto(Key* keys, std::size_t n, Key* scratch, Key* target);
+
+void sortFromTheHighestDigitDown(Key* keys, std::size_t n, int varyingBits, Key* scratch, Key* target)
+{
+    const Digits highest = {std::max(varyingBits - kDigitBits, 0), 1};
+    Histograms counts{};
+    countDigits(keys, n, highest, counts);
+    scatter(keys, n, highest, 0, counts[0], scratch);
+    std::size_t begin = 0;
+    for (const std::size_t count : counts[0]) {
+        sortInto(scratch + begin, count, keys + begin, target + begin);
+        begin += count;
+    }
+}
+
+// target is one of the two others.
+void sortInto(Key* keys, std::size_t n, Key* scratch, Key* target)
+{
+    if (n < kFewKeys) {
+        std::sort(keys, keys + n);
+        std::copy(keys, keys + (target == keys ? 0 : n), target);
+        return;
+    }
+    Key varying = 0;
+    for (std::size_t i = 0; i < n; ++i)
+        varying |= keys[i] ^ keys[0];
+    const auto varyingBits = static_cast<int>(std::bit_width(varying));
+    if (n > kManyKeys && varying != 0)
+        sortFromTheHighestDigitDown(keys, n, varyingBits, scratch, target);
+    else
+        sortFromALowDigitUp(keys, n, varyingBits, scratch, target);
+}
+
+void sortKeys(Key* keys, std::size_t n, Key* scratch)
+{
+    if (std::is_sorted(keys, keys + n))
+        return;
+    if (std::is_sorted(keys, keys + n, std::greater<>()))
+        std::reverse(keys, keys + n);
+    else
+        sortInto(keys, n, scratch, keys);
 }
 
 } // namespace
@@ -86,29 +159,29 @@ void sort(const double* x, std::int64_t n, std::int32_t direction, double* y)
     requireArrays(x, y);
     const auto count = static_cast<std::size_t>(n);
     const Key descending = direction == 0 ? 0 : ~Key{0};
-    const auto aside = makeBuffer(count); // zeros from the front, NaN from the back
-    const auto keys = makeBuffer<Key>(2 * count);
-    double* zerosEnd = aside.get();
-    double* nansBegin = aside.get() + count;
-    Key* keysEnd = keys.get();
+    const auto buffer = makeBuffer<Key>(count); // keys from the front, zeros and NaN from the back
+    Key* keysEnd = buffer.get();
+    Key* aside = buffer.get() + count;
     for (std::size_t i = 0; i < count; ++i) {
-        if (x[i] == 0)
-            *zerosEnd++ = x[i];
-        else if (std::isnan(x[i]))
-            *--nansBegin = x[i];
-        else
+        if (std::abs(x[i]) > 0)
             *keysEnd++ = keyOf(x[i], descending);
+        else
+            *--aside = std::bit_cast<Key>(x[i]);
     }
 
-    const auto keyCount = static_cast<std::size_t>(keysEnd - keys.get());
-    const Key* const begin = sorted(keys.get(), keyCount, keys.get() + count);
-    const Key* const end = begin + keyCount;
-    const Key* const zero = std::lower_bound(begin, end, keyOf(0, descending));
+    const auto keyCount = static_cast<std::size_t>(keysEnd - buffer.get());
+    sortKeys(buffer.get(), keyCount, reinterpret_cast<Key*>(y));
+    const Key* const zero = std::lower_bound(buffer.get(), keysEnd, keyOf(0, descending));
     const auto value = [&](Key key) { return valueOf(key, descending); };
-    y = std::transform(begin, zero, y, value);
-    y = std::copy(aside.get(), zerosEnd, y);
-    y = std::transform(zero, end, y, value);
-    std::reverse_copy(nansBegin, aside.get() + count, y);
+    const auto putAside = [&](bool nan) {
+        for (const Key* key = buffer.get() + count; key != aside;)
+            if (const auto special = std::bit_cast<double>(*--key); std::isnan(special) == nan)
+                *y++ = special;
+    };
+    y = std::transform<const Key*>(buffer.get(), zero, y, value);
+    putAside(false);
+    y = std::transform<const Key*>(zero, keysEnd, y, value);
+    putAside(true);
 }
 
 } // namespace quordsp::backend

@@ -46,7 +46,7 @@ struct Butterfly {
     }
 
     template <class T>
-    static void apply(Points<T, R>& a)
+    [[gnu::always_inline]] static void apply(Points<T, R>& a)
     {
         Points<T, half> sum, difference;
         for (std::size_t j = 1; j <= half; ++j) {
@@ -72,7 +72,7 @@ struct Butterfly {
 template <>
 struct Butterfly<2> {
     template <class T>
-    static void apply(Points<T, 2>& a)
+    [[gnu::always_inline]] static void apply(Points<T, 2>& a)
     {
         a = {a[0] + a[1], a[0] - a[1]};
     }
@@ -81,7 +81,7 @@ struct Butterfly<2> {
 template <>
 struct Butterfly<4> {
     template <class T>
-    static void apply(Points<T, 4>& a)
+    [[gnu::always_inline]] static void apply(Points<T, 4>& a)
     {
         const auto evenSum = a[0] + a[2], evenDifference = a[0] - a[2];
         const auto oddSum = a[1] + a[3], oddDifference = quarterTurn(a[1] - a[3]);
@@ -92,7 +92,7 @@ struct Butterfly<4> {
 template <>
 struct Butterfly<8> {
     template <class T>
-    static void apply(Points<T, 8>& a)
+    [[gnu::always_inline]] static void apply(Points<T, 8>& a)
     {
         constexpr double h = 0.7071067811865475244008;
         Points<T, 4> even = {a[0] + a[4], a[1] + a[5], a[2] + a[6], a[3] + a[7]};

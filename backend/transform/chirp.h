@@ -3,25 +3,28 @@
 // a size that has small prime factors only and leaves room for it.
 #pragma once
 
-#include "transform/mixed_radix.h"
+#include "transform/complex_plan.h"
+#include "transform/split_buffer.h"
 
 namespace quordsp::backend {
 
 class Chirp final : public ComplexPlan {
 public:
-    explicit Chirp(std::size_t n);
+    Chirp(std::size_t n, std::size_t lanes);
 
-    std::size_t workSize() const override { return 2 * padded_ + convolver_.workSize(); }
+    std::size_t tableSize() const override { return 2 * (n_ + padded_) + convolver_->tableSize(); }
+    std::size_t workSize() const override { return Work::sizeOf(padded_ * lanes_) + convolver_->workSize(); }
     void forward(ConstSplit in, Split out, double* work) const override;
 
 private:
-    Split chirp() const { return {tables_.get(), tables_.get() + n_}; }
-    Split kernel() const { return {tables_.get() + 2 * n_, tables_.get() + 2 * n_ + padded_}; }
+    void multiply(ConstSplit rows, ConstSplit factors, std::size_t count, Split products) const;
 
     std::size_t n_;
+    std::size_t lanes_;
     std::size_t padded_;
-    MixedRadix convolver_;
-    Buffer<> tables_;
+    std::unique_ptr<const ComplexPlan> convolver_;
+    SplitBuffer chirp_;
+    SplitBuffer kernel_;
 };
 
 } // namespace quordsp::backend

@@ -2,18 +2,28 @@
 
 #include "buffer.h"
 #include "transform/chirp.h"
+#include "transform/four_step.h"
 #include "transform/mixed_radix.h"
 
 namespace quordsp::backend {
 
-std::unique_ptr<const ComplexPlan> makeComplexPlan(std::size_t n)
+namespace {
+
+// From here on the arrays of a transform no longer fit into a near cache.
+constexpr std::size_t kLarge = 1 << 15;
+
+} // namespace
+
+std::unique_ptr<const ComplexPlan> makeComplexPlan(std::size_t n, std::size_t lanes)
 {
     if (n > kMostElements)
         throw std::bad_alloc();
     const Factors factors = factorized(n);
-    if (factors.rest == 1)
-        return std::make_unique<MixedRadix>(n, factors.radices);
-    return std::make_unique<Chirp>(n);
+    if (factors.rest != 1)
+        return std::make_unique<Chirp>(n, lanes);
+    if (lanes == 1 && n >= kLarge && FourStep::suits(n))
+        return std::make_unique<FourStep>(n);
+    return std::make_unique<MixedRadix>(n, lanes);
 }
 
 } // namespace quordsp::backend

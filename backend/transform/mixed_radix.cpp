@@ -3,39 +3,31 @@
 #include "transform/roots.h"
 
 #include <bit>
+#include <utility>
 
 namespace quordsp::backend {
 
 namespace {
 
-// Radices of 2^exponent, exponent != 1. Few large factors are best, and two fours are cheaper than an eight and a two.
-// But inputs of a pass that are a multiple of 4096 bytes apart compete for the same few lines of the nearest cache:
-// room enough for those of a four, not of an eight.
+// Radices of 2^exponent, exponent != 1: few large factors are best, and two fours are cheaper than an eight and a two.
 std::vector<std::size_t> powerOfTwoRadices(int exponent)
 {
-    const int eights = exponent >= 12 ? exponent % 2 : exponent / 3 - (exponent % 3 == 1 ? 1 : 0);
+    const int eights = exponent / 3 - (exponent % 3 == 1 ? 1 : 0);
     const int fours = (exponent - 3 * eights) / 2;
     std::vector<std::size_t> radices(static_cast<std::size_t>(eights), 8);
     radices.insert(radices.end(), static_cast<std::size_t>(fours), 4);
     return radices;
 }
 
-class TableWriter {
-public:
-    explicit TableWriter(Split table) : table_(table) {}
+bool hasButterfly(std::size_t radix)
+{
+    return radix <= 8;
+}
 
-    // Appends root(step * i), i = 0..count-1.
-    void append(const Roots& root, std::size_t step, std::size_t count)
-    {
-        for (std::size_t i = 0; i < count; ++i)
-            table_.set(i, root(i * step));
-        table_ = table_ + count;
-    }
-    ConstSplit position() const { return table_; }
-
-private:
-    Split table_;
-};
+bool isNarrow(const Pass& pass)
+{
+    return pass.stride < kWideStride && pass.groups > 1;
+}
 
 } // namespace
 
@@ -52,43 +44,85 @@ Factors factorized(std::size_t n)
     return factors;
 }
 
-MixedRadix::MixedRadix(std::size_t n, const std::vector<std::size_t>& radices) : n_(n)
+MixedRadix::MixedRadix(std::size_t n, std::size_t lanes) : n_(n), lanes_(lanes)
 {
-    std::size_t points = 0;
-    for (std::size_t groups = n; const std::size_t radix : radices) {
-        groups /= radix;
-        points += tableSize(radix, groups);
-    }
-    tables_ = makeBuffer(2 * points);
-    TableWriter table({tables_.get(), tables_.get() + points});
-    const Roots root(n);
-    for (std::size_t stride = 1; const std::size_t radix : radices) {
-        const std::size_t groups = n / (stride * radix);
-        Pass pass = {radix, stride, groups, table.position(), {}};
-        for (std::size_t j = 1; j < radix; ++j)
-            table.append(root, stride * j, groups);
-        pass.circle = table.position();
-        table.append(root, n / radix, radix);
+    for (std::size_t stride = lanes; const std::size_t radix : factorized(n).radices) {
+        Pass pass = {};
+        pass.radix = radix;
+        pass.stride = stride;
+        pass.groups = n * lanes / (stride * radix);
+        pass.length = lanes > 1 ? lanes : stride;
+        (isNarrow(pass) ? chooseNarrow : pass.groups > 1 ? chooseWide : chooseLast)(pass);
         passes_.push_back(pass);
         stride *= radix;
     }
+    makeTables();
 }
 
-// Passes write out and work in turn so that the last one writes out. When that would make the first one write what it
-// reads, they begin with work, and what they leave there is copied.
+void MixedRadix::makeTables()
+{
+    std::size_t ofLanes = 0, ofGroups = 0;
+    for (const Pass& pass : passes_) {
+        ofLanes += isNarrow(pass) ? Work::sizeOf((pass.radix - 1) * pass.groups * pass.stride) : 0;
+        ofGroups += (isNarrow(pass) ? 0 : (pass.radix - 1) * pass.groups) + (hasButterfly(pass.radix) ? 0 : pass.radix);
+    }
+    laneTwiddles_ = AlignedBuffer(ofLanes);
+    groupTwiddles_ = makeBuffer<Point<double>>(ofGroups);
+    tableSize_ = ofLanes + 2 * ofGroups;
+
+    Work laneTables(laneTwiddles_.get());
+    Point<double>* groupTable = groupTwiddles_.get();
+    const Roots root(n_);
+    for (Pass& pass : passes_) {
+        const std::size_t stride = pass.stride / lanes_, count = pass.groups * pass.stride;
+        if (isNarrow(pass)) {
+            const Split table = laneTables.take((pass.radix - 1) * count);
+            for (std::size_t j = 1; j < pass.radix; ++j)
+                for (std::size_t i = 0; i < count; ++i)
+                    table.set((j - 1) * count + i, root(stride * j * (i / stride)));
+            pass.laneTwiddles = table;
+        } else {
+            pass.groupTwiddles = groupTable;
+            for (std::size_t group = 0; group < pass.groups; ++group)
+                for (std::size_t j = 1; j < pass.radix; ++j)
+                    *groupTable++ = root(stride * j * group);
+        }
+        pass.circle = groupTable;
+        if (!hasButterfly(pass.radix))
+            for (std::size_t j = 0; j < pass.radix; ++j)
+                *groupTable++ = root(n_ / pass.radix * j);
+    }
+}
+
+void MixedRadix::copyRows(ConstSplit from, Split to) const
+{
+    for (std::size_t i = 0; i < n_; ++i)
+        for (std::size_t lane = 0; lane < lanes_; ++lane)
+            to.set(i * to.pitch + lane, from[i * from.pitch + lane]);
+}
+
+// All intermediate results are in work. Only the first pass reads interleaved arrays, and only the last one writes any;
+// a single pass over rows does not do both.
 void MixedRadix::forward(ConstSplit in, Split out, double* work) const
 {
-    const Split scratch = {work, work + n_};
-    const bool endsInWork = in.re == out.re && passes_.size() % 2 == 1;
-    std::size_t toCome = passes_.size() + (endsInWork ? 1 : 0);
+    Work arrays(work);
+    Split target = arrays.take(n_ * lanes_), other = arrays.take(n_ * lanes_);
+    if (passes_.empty())
+        return copyRows(in, out);
     ConstSplit source = in;
-    for (const Pass& pass : passes_) {
-        const Split target = --toCome % 2 == 0 ? out : scratch;
-        run(pass, source, target);
-        source = target;
+    if (passes_.size() == 1 && lanes_ > 1 && in.step > 1) {
+        copyRows(in, other);
+        source = other;
     }
-    if (source.re != out.re)
-        copy(source, n_, out);
+    for (const Pass& pass : passes_) {
+        const bool isLast = &pass == &passes_.back();
+        Split y = isLast ? out : target;
+        if (lanes_ == 1)
+            source.pitch = y.pitch = pass.length;
+        ((isLast ? y.step : source.step) == 1 ? pass.ofSplit : pass.ofInterleaved)(pass, source, y);
+        source = target;
+        std::swap(target, other);
+    }
 }
 
 } // namespace quordsp::backend

@@ -4,6 +4,7 @@
 #include "buffer.h"
 #include "transform/complex_plan.h"
 #include "transform/passes.h"
+#include "transform/work.h"
 
 #include <cstddef>
 #include <vector>
@@ -19,15 +20,22 @@ Factors factorized(std::size_t n);
 
 class MixedRadix final : public ComplexPlan {
 public:
-    MixedRadix(std::size_t n, const std::vector<std::size_t>& radices);
+    MixedRadix(std::size_t n, std::size_t lanes);
 
-    std::size_t workSize() const override { return 2 * n_; }
+    std::size_t tableSize() const override { return tableSize_; }
+    std::size_t workSize() const override { return 2 * Work::sizeOf(n_ * lanes_); }
     void forward(ConstSplit in, Split out, double* work) const override;
 
 private:
+    void makeTables();
+    void copyRows(ConstSplit from, Split to) const;
+
     std::size_t n_;
-    Buffer<> tables_;
+    std::size_t lanes_;
+    std::size_t tableSize_ = 0;
     std::vector<Pass> passes_;
+    AlignedBuffer laneTwiddles_{0};
+    Buffer<Point<double>> groupTwiddles_;
 };
 
 } // namespace quordsp::backend

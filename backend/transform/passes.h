@@ -9,21 +9,31 @@ namespace quordsp::backend {
 
 inline constexpr std::size_t kLargestPrimeRadix = 61;
 
+// A stride from which a pass runs over it with vectors.
+inline constexpr std::size_t kWideStride = 8;
+
+struct Pass;
+using PassFunction = void (*)(const Pass& pass, ConstSplit x, Split y) noexcept;
+
+// Reads x and writes y, which do not overlap. But a last pass may run in place, if it is the only one.
 struct Pass {
-    std::size_t radix;   // 2, 4, 8 or an odd prime up to kLargestPrimeRadix
-    std::size_t stride;  // product of the radices before
-    std::size_t groups;  // product of the radices to come
-    ConstSplit twiddles; // [radix - 1][groups]
-    ConstSplit circle;   // [radix]
+    std::size_t radix;  // 2, 3, 4, 5, 7, 8 or a prime up to kLargestPrimeRadix
+    std::size_t stride; // lanes times the product of the radices before
+    std::size_t groups; // product of the radices to come
+    std::size_t length; // of a row: what of a stride is contiguous in x and y
+    PassFunction ofSplit;
+    PassFunction ofInterleaved;
+
+    ConstSplit laneTwiddles;            // of a narrow pass: [radix - 1][groups * stride]
+    const Point<double>* groupTwiddles; // of a wide one: [groups][radix - 1]
+    const Point<double>* circle;        // roots of order radix; of a prime that has no butterfly of its own
 };
 
-// Number of points that the two tables of a pass take.
-inline std::size_t tableSize(std::size_t radix, std::size_t groups)
-{
-    return (radix - 1) * groups + radix;
-}
-
-// Reads x, writes y; the two do not overlap.
-void run(const Pass& pass, ConstSplit x, Split y);
+// A pass with a stride below kWideStride that is not the last one; x of either kind, y split.
+void chooseNarrow(Pass& pass);
+// Any other; x of either kind, y split.
+void chooseWide(Pass& pass);
+// The last one: it has no twiddles. x split, y of either kind.
+void chooseLast(Pass& pass);
 
 } // namespace quordsp::backend

@@ -1,8 +1,10 @@
-// One complex value, and a complex array held as two real ones. T is double, or several of them that are
-// computed alike.
+// One complex value, and a complex array as its real and its imaginary parts. T is double, or a vector of several that
+// are computed alike.
+//
+// All that kernels are made of is always_inline: a vector is handed over in another way by each instruction set, and a
+// kernel is compiled for several.
 #pragma once
 
-#include <algorithm>
 #include <cstddef>
 
 namespace quordsp::backend {
@@ -14,56 +16,69 @@ struct Point {
 };
 
 template <class T>
-Point<T> operator+(Point<T> a, Point<T> b)
+[[gnu::always_inline]] inline Point<T> operator+(Point<T> a, Point<T> b)
 {
     return {a.re + b.re, a.im + b.im};
 }
 
 template <class T>
-Point<T> operator-(Point<T> a, Point<T> b)
+[[gnu::always_inline]] inline Point<T> operator-(Point<T> a, Point<T> b)
 {
     return {a.re - b.re, a.im - b.im};
 }
 
 // The plain formula: what C++ prescribes for its own complex type looks after infinities at the cost of a branch.
-template <class T>
-Point<T> operator*(Point<T> a, Point<T> b)
+template <class T, class U>
+[[gnu::always_inline]] inline Point<T> operator*(Point<T> a, Point<U> b)
 {
     return {a.re * b.re - a.im * b.im, a.re * b.im + a.im * b.re};
 }
 
 template <class T>
-Point<T> operator*(double factor, Point<T> a)
+[[gnu::always_inline]] inline Point<T> operator*(double factor, Point<T> a)
 {
     return {factor * a.re, factor * a.im};
 }
 
+// Rounds once, which multiplying by the reciprocal would not.
+inline Point<double> operator/(Point<double> a, double divisor)
+{
+    return {a.re / divisor, a.im / divisor};
+}
+
 template <class T>
-Point<T> conjugate(Point<T> a)
+[[gnu::always_inline]] inline Point<T> conjugate(Point<T> a)
 {
     return {a.re, -a.im};
 }
 
 // Times -i: a quarter turn the way forward transforms turn.
 template <class T>
-Point<T> quarterTurn(Point<T> a)
+[[gnu::always_inline]] inline Point<T> quarterTurn(Point<T> a)
 {
     return {a.im, -a.re};
 }
 
+// Many transforms at once: of [n][kLanes] values over the first index.
+inline constexpr std::size_t kLanes = 8;
+
+// Two arrays of doubles (step 1), or one in which real and imaginary parts alternate (step 2).
 template <class T>
 struct BasicSplit {
     T* re;
     T* im;
+    std::size_t step = 1;
+    std::size_t pitch = kLanes; // from one row of lanes to the next, for those who use rows
 
-    Point<double> operator[](std::size_t i) const { return {re[i], im[i]}; }
+    Point<double> operator[](std::size_t i) const { return {re[i * step], im[i * step]}; }
     void set(std::size_t i, Point<double> value) const
     {
-        re[i] = value.re;
-        im[i] = value.im;
+        re[i * step] = value.re;
+        im[i * step] = value.im;
     }
-    BasicSplit operator+(std::size_t offset) const { return {re + offset, im + offset}; }
-    operator BasicSplit<const T>() const { return {re, im}; }
+    BasicSplit operator+(std::size_t offset) const { return {re + offset * step, im + offset * step, step, pitch}; }
+    operator BasicSplit<const T>() const { return {re, im, step, pitch}; }
+    BasicSplit withPitch(std::size_t other) const { return {re, im, step, other}; }
 };
 
 using Split = BasicSplit<double>;
@@ -73,13 +88,7 @@ using ConstSplit = BasicSplit<const double>;
 template <class T>
 BasicSplit<T> exchanged(BasicSplit<T> a)
 {
-    return {a.im, a.re};
-}
-
-inline void copy(ConstSplit from, std::size_t count, Split to)
-{
-    std::copy_n(from.re, count, to.re);
-    std::copy_n(from.im, count, to.im);
+    return {a.im, a.re, a.step, a.pitch};
 }
 
 } // namespace quordsp::backend

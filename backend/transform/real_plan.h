@@ -2,8 +2,8 @@
 // and one step more; of an odd size it is a complex transform without imaginary parts.
 #pragma once
 
-#include "buffer.h"
 #include "transform/complex_plan.h"
+#include "transform/split_buffer.h"
 
 namespace quordsp::backend {
 
@@ -14,7 +14,8 @@ public:
     explicit RealPlan(std::size_t n);
 
     std::size_t bins() const { return n_ / 2 + 1; }
-    std::size_t workSize() const { return 2 * points_ + complex_->workSize(); } // doubles
+    std::size_t workSize() const { return Work::sizeOf(points_) + complex_->workSize(); } // doubles
+    std::size_t tableSize() const { return n_ / 2 + complex_->tableSize(); }
 
     // Unscaled. x may be spectrum.re. Imaginary parts that are 0 for any real signal come out as 0.
     void forward(const double* x, Split spectrum, double* work) const;
@@ -26,8 +27,7 @@ private:
     std::size_t n_;
     std::size_t points_; // of the complex transform
     std::unique_ptr<const ComplexPlan> complex_;
-    Buffer<> twiddles_; // of an even size
-    Split twiddles() const { return {twiddles_.get(), twiddles_.get() + n_ / 4 + 1}; }
+    SplitBuffer twiddles_{0}; // of an even size
 };
 
 } // namespace quordsp::backend

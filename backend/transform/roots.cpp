@@ -83,34 +83,51 @@ int commonBitsWithFour(std::size_t n)
     return std::min(std::countr_zero(n), 2);
 }
 
+// Root k of order n, with cosine and sine of the folded angle from octant.
+template <class Octant>
+Point<double> unfolded(std::size_t n, std::size_t k, Octant octant)
+{
+    std::size_t a = 4 * k;
+    const bool lowerHalf = a > 2 * n;
+    if (lowerHalf)
+        a = 4 * n - a;
+    const bool leftHalf = a > n;
+    if (leftHalf)
+        a = 2 * n - a;
+    const bool secondOctant = a > n / 2;
+    if (secondOctant)
+        a = n - a;
+    auto [cos, sin] = octant(a);
+    if (secondOctant)
+        std::swap(cos, sin);
+    return {leftHalf ? -cos : cos, lowerHalf ? sin : -sin};
+}
+
+Point<double> cosineAndSine(const AngleUnit& unit, std::size_t index)
+{
+    const Angle angle = unit.times(static_cast<double>(index));
+    return {cosine(angle), sine(angle)};
+}
+
 } // namespace
+
+Point<double> rootOfUnity(std::size_t n, std::size_t k)
+{
+    const AngleUnit unit(static_cast<double>(n));
+    return unfolded(n, k, [&](std::size_t a) { return cosineAndSine(unit, a); });
+}
 
 Roots::Roots(std::size_t n)
     : n_(n), shift_(commonBitsWithFour(n)), firstOctant_(makeBuffer<Point<double>>((n / 2 >> shift_) + 1))
 {
     const AngleUnit unit(static_cast<double>(n));
-    for (std::size_t i = 0; i <= n / 2 >> shift_; ++i) {
-        const Angle angle = unit.times(static_cast<double>(i << shift_));
-        firstOctant_[i] = {cosine(angle), sine(angle)};
-    }
+    for (std::size_t i = 0; i <= n / 2 >> shift_; ++i)
+        firstOctant_[i] = cosineAndSine(unit, i << shift_);
 }
 
 Point<double> Roots::operator()(std::size_t k) const
 {
-    std::size_t a = 4 * k;
-    const bool lowerHalf = a > 2 * n_;
-    if (lowerHalf)
-        a = 4 * n_ - a;
-    const bool leftHalf = a > n_;
-    if (leftHalf)
-        a = 2 * n_ - a;
-    const bool secondOctant = a > n_ / 2;
-    if (secondOctant)
-        a = n_ - a;
-    auto [cos, sin] = firstOctant_[a >> shift_];
-    if (secondOctant)
-        std::swap(cos, sin);
-    return {leftHalf ? -cos : cos, lowerHalf ? sin : -sin};
+    return unfolded(n_, k, [this](std::size_t a) { return firstOctant_[a >> shift_]; });
 }
 
 } // namespace quordsp::backend

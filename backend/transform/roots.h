@@ -7,6 +7,9 @@
 namespace quordsp::backend {
 
 // exp(-2 pi i k/n) for 0 <= k < n. Each component is off by at most 0.52 units in the last place for n < 2^31.
+Point<double> rootOfUnity(std::size_t n, std::size_t k);
+
+// Many of one order, faster.
 class Roots {
 public:
     explicit Roots(std::size_t n);

@@ -1,7 +1,9 @@
 #include "transform/spectra.h"
 
 #include "status.h"
-#include "transform/real_plan.h"
+#include "transform/interleaved.h"
+#include "transform/prepared.h"
+#include "transform/split_buffer.h"
 #include "transform/unwrap.h"
 
 #include <algorithm>
@@ -17,19 +19,15 @@ namespace {
 // not be.
 class RealSpectrum {
 public:
-    RealSpectrum(const double* x, std::size_t n)
-        : n_(static_cast<double>(n)), plan_(n), bins_(makeBuffer(2 * plan_.bins()))
+    RealSpectrum(const double* x, std::size_t n) : n_(static_cast<double>(n)), bins_(n / 2 + 1)
     {
-        plan_.forward(x, split(), makeBuffer(plan_.workSize()).get());
+        Prepared<RealPlan>(n).forward(x, bins_.get());
     }
-    Point<double> operator[](std::size_t k) const { return {split().re[k] / n_, split().im[k] / n_}; }
+    Point<double> operator[](std::size_t k) const { return bins_.get()[k] / n_; }
 
 private:
-    Split split() const { return {bins_.get(), bins_.get() + plan_.bins()}; }
-
     double n_;
-    RealPlan plan_;
-    Buffer<> bins_;
+    SplitBuffer bins_;
 };
 
 double squared(Point<double> a)
@@ -65,6 +63,19 @@ void powerSpectrum(double* x, std::int64_t n)
     x[0] = squared(spectrum[0]);
     for (std::size_t k = 1; k <= count / 2; ++k)
         x[k] = x[count - k] = squared(spectrum[k]);
+}
+
+void powerSpectrum(const Complex* x, std::int64_t n, double* s)
+{
+    requirePositiveCount(n);
+    requireArrays(x, s);
+    const auto count = static_cast<std::size_t>(n);
+    const SplitBuffer bins(count);
+    const Prepared<ComplexPlan> transform(count);
+    separate(x, count, bins);
+    transform.forward(bins.get(), bins.get());
+    for (std::size_t k = 0; k < count; ++k)
+        s[k] = squared(bins.get()[k] / static_cast<double>(count));
 }
 
 void autoPowerSpectrum(const double* x, std::int64_t n, double dt, double* s, double* df)

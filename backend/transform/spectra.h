@@ -1,12 +1,15 @@
-// Spectra of real signals of any length.
+// Spectra of signals of any length.
 #pragma once
+
+#include "nianlys.h"
 
 #include <cstdint>
 
 namespace quordsp::backend {
 
-// Two-sided power |Y[k]/n|^2, n values that replace the signal; their sum is the signal's mean square.
+// Two-sided power |Y[k]/n|^2, n values, of which those of a real signal replace it; their sum is the mean square.
 void powerSpectrum(double* x, std::int64_t n);
+void powerSpectrum(const Complex* x, std::int64_t n, double* s);
 
 // One-sided power: what bin k and its mirror image hold together. n/2 values, at least 1; df becomes 1/(n dt). s may be
 // x.

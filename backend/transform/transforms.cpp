@@ -1,8 +1,7 @@
 #include "transform/transforms.h"
 
 #include "status.h"
-#include "transform/complex_plan.h"
-#include "transform/real_plan.h"
+#include "transform/prepared.h"
 
 namespace quordsp::backend {
 
@@ -25,8 +24,7 @@ std::size_t checkedCount(const double* re, const double* im, std::int64_t n)
 
 void transformInPlace(Split a, std::size_t n)
 {
-    const auto plan = makeComplexPlan(n);
-    plan->forward(a, a, makeBuffer(plan->workSize()).get());
+    Prepared<ComplexPlan>(n).forward(a, a);
 }
 
 } // namespace
@@ -47,9 +45,8 @@ void inverseFft(double* re, double* im, std::int64_t n)
 void realFft(double* re, double* im, std::int64_t n)
 {
     const std::size_t count = checkedCount(re, im, n);
-    const RealPlan plan(count);
-    plan.forward(re, {re, im}, makeBuffer(plan.workSize()).get());
-    for (std::size_t k = plan.bins(); k < count; ++k) {
+    Prepared<RealPlan>(count).forward(re, Split{re, im});
+    for (std::size_t k = count / 2 + 1; k < count; ++k) {
         re[k] = re[count - k];
         im[k] = -im[count - k];
     }
@@ -58,8 +55,7 @@ void realFft(double* re, double* im, std::int64_t n)
 void inverseRealFft(double* re, const double* im, std::int64_t n)
 {
     const std::size_t count = checkedCount(re, im, n);
-    const RealPlan plan(count);
-    plan.inverse({re, im}, re, makeBuffer(plan.workSize()).get());
+    Prepared<RealPlan>(count).inverse(ConstSplit{re, im}, re);
     divide(re, count);
 }
 

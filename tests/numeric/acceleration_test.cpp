@@ -221,6 +221,33 @@ TEST(Acceleration, GivesTheBitsOfTheDefinition)
         }
 }
 
+// Of an impulse, by the default backend; at first the rate is 51200 Hz.
+TEST(Acceleration, IntegratesByTheDocumentedRule)
+{
+    loadDefaultBackend();
+    const Samples seven{0.0, 0.0, 0.0, 1.0, 0.0, 0.0, 0.0};
+    Samples velocity{0.0, 0.0, 1.0, 5.0, 6.0, 6.0, 6.0}; // sums of 1, 4, 1
+    for (double& value : velocity)
+        value /= 6.0 * 51200.0;
+    EXPECT_THAT(processed(settings(51200.0), seven).velocity, isMetres(withoutPolynomial(velocity), 1e-15));
+}
+
+TEST(Acceleration, IntegratesTwiceByTheDocumentedRule)
+{
+    loadDefaultBackend();
+    const Samples eleven{0.0, 0.0, 0.0, 0.0, 0.0, 9.0, 0.0, 0.0, 0.0, 0.0, 0.0};
+    Samples velocity, displacement;
+    double area = 0.0;
+    for (const double weight : {0.0, 0.0, 0.0, 0.0, 1.0, 4.0, 1.0, 0.0, 0.0, 0.0, 0.0})
+        velocity.push_back(area += 9.0 * weight / 6.0 / 51200.0);
+    area = 0.0;
+    for (std::size_t i = 0; i < 11; ++i) {
+        area += (i > 0 ? velocity[i - 1] : 0.0) + 4.0 * velocity[i] + velocity[std::min<std::size_t>(i + 1, 10)];
+        displacement.push_back(area / 6.0 / 51200.0);
+    }
+    EXPECT_THAT(processed(settings(51200.0), eleven).displacement, isMetres(withoutPolynomial(displacement), 1e-15));
+}
+
 TEST(Acceleration, GoesOnFromBlockToBlock)
 {
     auto stream = referenceStream(loadDefaultBackend());

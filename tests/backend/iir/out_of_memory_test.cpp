@@ -1,7 +1,7 @@
 // Allocation n fails, for every n: each entry answers "not enough memory", writes nothing and leaks nothing. Works
 // where the module takes operator new from this program.
 #include "backend/support/failing_new.h"
-#include "backend/support/iir.h"
+#include "backend/support/iir_families.h"
 
 namespace quordsp::test {
 namespace {
@@ -32,6 +32,22 @@ TEST(OutOfMemory, LeavesACascadeFilterAsItWas)
     filter->reset = 0;
     const auto untouched = [&] { return filter->reset == 0 && filter->reverse[0] == 0 && filter->forward[0] == 0; };
     EXPECT_GT(failEveryAllocation([&] { return backend::AALFunc18(1, 0.1, 0.2, filter.get()); }, untouched), 4);
+}
+
+TEST(OutOfMemory, IsReportedByTheDesignsOfEveryFamily)
+{
+    for (Family family : kFamilies) {
+        const Order order{family, BandPass, 3};
+        std::vector<double> a(7, 7.0), b = a;
+        const std::vector<double> before = a;
+        EXPECT_GT(failEveryAllocation([&] { return directInto(order, a.data(), 7, b.data(), 7); },
+                                      [&] { return a == before && b == before; }),
+                  4);
+        backend::Complex x{1, 2};
+        EXPECT_GT(failEveryAllocation([&] { return filter(order, &x, 1, static_cast<backend::Complex*>(nullptr)); },
+                                      [&] { return x.real == 1 && x.imaginary == 2; }),
+                  4);
+    }
 }
 
 TEST(OutOfMemory, IsReportedByTheConversionOfACascade)

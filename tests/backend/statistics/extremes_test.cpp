@@ -85,6 +85,29 @@ TEST(MaxMin1D, FindsExtremesAtEveryPosition)
         }
 }
 
+// Three hundred: longer than the blocks that are searched at once.
+TEST(MaxMin1D, FindsExtremesOfLongArraysAtEveryPosition)
+{
+    for (const std::size_t n : {255u, 256u, 257u, 300u, 1000u}) {
+        std::vector<double> x(n, 1);
+        x[n / 3] = kNan;
+        for (std::size_t i = 0; i < n; ++i) {
+            const std::size_t j = (i + n / 2) % n;
+            const std::vector<double> before = {x[i], x[j], x[n - 1], x[n - 2]};
+            x[n - 1] = 2; // not the first ones, but for i and j there
+            x[n - 2] = 0;
+            x[i] = 2;
+            x[j] = 0;
+            EXPECT_EQ(extremesOf(x), (Extremes{2, static_cast<std::int64_t>(i), 0,
+                                               static_cast<std::int64_t>(std::min(j, j == n - 1 ? n - 2 : j))}));
+            x[n - 2] = before[3];
+            x[n - 1] = before[2];
+            x[j] = before[1];
+            x[i] = before[0];
+        }
+    }
+}
+
 TEST(MaxMin1D, RefusesCountsThatAreNotPositive)
 {
     const double x[] = {1};

@@ -5,7 +5,6 @@
 
 #include <limits>
 #include <numbers>
-#include <thread>
 
 namespace quordsp::backend {
 namespace {
@@ -129,23 +128,6 @@ TEST(Fft, IsUndoneByTheInverse)
         Signal y = transformed(x);
         ASSERT_EQ(inverseFft(y), Status::Success);
         EXPECT_LT(distance(y, x), kTolerance);
-    }
-}
-
-TEST(Fft, GivesTheSameBitsInSeveralThreads)
-{
-    for (const std::size_t n : kSizes) {
-        SCOPED_TRACE(n);
-        const Signal expected = transformed(complexNoise(n));
-        Signal results[2];
-        {
-            std::jthread first([&] { results[0] = transformed(complexNoise(n)); });
-            std::jthread second([&] { results[1] = transformed(complexNoise(n)); });
-        }
-        for (const Signal& result : results) {
-            EXPECT_EQ(result.re, expected.re);
-            EXPECT_EQ(result.im, expected.im);
-        }
     }
 }
 

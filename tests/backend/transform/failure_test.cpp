@@ -44,12 +44,40 @@ void PrintTo(const Case& c, std::ostream* out)
     *out << c.name;
 }
 
+// Never looked into.
+Complex* complex(double* array)
+{
+    return reinterpret_cast<Complex*>(array);
+}
+
 const Case kCases[] = {
     {"FFT", [](const Arguments& x) { return AALFunc77(x.a, x.b, x.n); }, 2, false},
     {"InvFFT", [](const Arguments& x) { return AALFunc102(x.a, x.b, x.n); }, 2, false},
     {"ReFFT", [](const Arguments& x) { return AALFunc147(x.a, x.b, x.n); }, 2, false},
     {"ReInvFFT", [](const Arguments& x) { return AALFunc148(x.a, x.b, x.n); }, 2, false},
     {"Spectrum", [](const Arguments& x) { return AALFunc161(x.a, x.n); }, 1, false},
+    {"CxSpectrum", [](const Arguments& x) { return AALFunc467(complex(x.a), x.n, x.b); }, 2, false},
+    {"FFTEx", [](const Arguments& x) { return AALFunc262(x.a, x.n, 0, nullptr, 1, complex(x.b)); }, 2, false},
+    {"FFTExOfASize", [](const Arguments& x) { return AALFunc262(x.a, x.n, kHuge, nullptr, 1, complex(x.b)); }, 2,
+     false},
+    {"CxFFTEx", [](const Arguments& x) { return AALFunc263(complex(x.a), x.n, 0, nullptr, 1, complex(x.b)); }, 2,
+     false},
+    {"InvFFTEx", [](const Arguments& x) { return AALFunc264(complex(x.a), x.n, nullptr, 1, x.b); }, 2, false},
+    {"CxInvFFTEx", [](const Arguments& x) { return AALFunc265(complex(x.a), x.n, nullptr, 1, complex(x.b)); }, 2,
+     false},
+    {"FFT2DOfRows", [](const Arguments& x) { return AALFunc266(x.a, x.n, 2, 0, 0, 1, complex(x.b)); }, 2, false},
+    {"FFT2DOfColumns", [](const Arguments& x) { return AALFunc266(x.a, 2, x.n, 0, 0, 1, complex(x.b)); }, 2, false},
+    {"FFT2DOfASize", [](const Arguments& x) { return AALFunc266(x.a, x.n, 1, 3, kHuge, 1, complex(x.b)); }, 2, false},
+    {"CxFFT2DOfRows", [](const Arguments& x) { return AALFunc267(complex(x.a), x.n, 2, 0, 0, 1, complex(x.b)); }, 2,
+     false},
+    {"CxFFT2DOfColumns", [](const Arguments& x) { return AALFunc267(complex(x.a), 2, x.n, 0, 0, 1, complex(x.b)); }, 2,
+     false},
+    {"InvFFT2DOfRows", [](const Arguments& x) { return AALFunc268(complex(x.a), x.n, 2, 1, x.b); }, 2, false},
+    {"InvFFT2DOfColumns", [](const Arguments& x) { return AALFunc268(complex(x.a), 2, x.n, 1, x.b); }, 2, false},
+    {"CxInvFFT2DOfRows", [](const Arguments& x) { return AALFunc269(complex(x.a), x.n, 2, 1, complex(x.b)); }, 2,
+     false},
+    {"CxInvFFT2DOfColumns", [](const Arguments& x) { return AALFunc269(complex(x.a), 2, x.n, 1, complex(x.b)); }, 2,
+     false},
     {"AutoPowerSpectrum", [](const Arguments& x) { return AALFunc10(x.a, x.n, x.dt, x.b, x.interval); }, 2, true},
     {"AmpPhaseSpectrum", [](const Arguments& x) { return AALFunc5(x.a, x.n, 1, x.dt, x.b, x.c, x.interval); }, 3, true},
 };

@@ -2,80 +2,147 @@
 #include "backend/support/failing_new.h"
 #include "backend/transform/signals.h"
 
+#include <functional>
+#include <string>
+
 namespace quordsp::backend {
 namespace {
 
-// One for each method: small factors of even and odd size, a large prime.
-constexpr std::size_t kMethods[] = {96, 105, 1009};
-
-void expectTransformSurvives(Status (*transform)(Signal&))
+bool isSmooth(std::size_t n)
 {
-    for (const std::size_t n : kMethods) {
-        Signal x = complexNoise(n);
-        const Signal before = x;
-        const auto untouched = [&] { return x.re == before.re && x.im == before.im; };
-        EXPECT_GT(failEveryAllocation([&] { return transform(x); }, untouched), 0) << n;
+    for (std::size_t prime = 2; prime <= 61; ++prime)
+        while (n % prime == 0)
+            n /= prime;
+    return n == 1;
+}
+
+bool isPrime(std::size_t n)
+{
+    for (std::size_t i = 2; i * i <= n; ++i)
+        if (n % i == 0)
+            return false;
+    return true;
+}
+
+// Sizes of one method that no transform has seen: a size that is known needs fewer allocations.
+struct Method {
+    std::size_t last;
+    bool (*has)(std::size_t n);
+
+    std::size_t newSize()
+    {
+        while (!has(++last)) {
+        }
+        return last;
     }
+};
+Method methods[] = {
+    {90, [](std::size_t n) { return n % 2 == 0 && isSmooth(n); }},
+    {90, [](std::size_t n) { return n % 2 != 0 && isSmooth(n); }},
+    {1000, isPrime},
+};
+Method large = {32767, isSmooth};
+
+// Arguments of any entry; each entry takes what it has.
+struct Arguments {
+    explicit Arguments(std::size_t count)
+        : n(static_cast<std::int64_t>(count)), a(6 * count, 1), b(6 * count, -1), c(6 * count, -1)
+    {}
+    bool operator==(const Arguments&) const = default;
+
+    Complex* complexA() { return reinterpret_cast<Complex*>(a.data()); }
+    Complex* complexB() { return reinterpret_cast<Complex*>(b.data()); }
+
+    std::int64_t n;
+    Array a, b, c;
+    double df = -1;
+};
+
+struct Entry {
+    std::string name;
+    Status (*call)(Arguments& x);
+};
+
+void PrintTo(const Entry& entry, std::ostream* out)
+{
+    *out << entry.name;
 }
 
-TEST(TransformOutOfMemory, IsSurvivedByFft)
+class EntryOutOfMemory : public testing::TestWithParam<Entry> {};
+
+void expectSurvivesNewSizes(const Entry& entry, Method& method)
 {
-    expectTransformSurvives(fft);
+    for (int n = 0, failed = 1; failed; ++n)
+        for (const bool lasting : {false, true}) {
+            Arguments arguments(method.newSize());
+            const Arguments before = arguments;
+            support::failure = {n, lasting};
+            const Status status = entry.call(arguments);
+            failed = support::failure.hasCome;
+            support::failure = {};
+            EXPECT_EQ(status, failed ? Status::OutOfMemory : Status::Success) << "allocation " << n;
+            EXPECT_EQ(arguments == before, failed) << "allocation " << n;
+        }
 }
 
-TEST(TransformOutOfMemory, IsSurvivedByInvFft)
+void expectSurvivesAKnownSize(const Entry& entry, Method& method)
 {
-    expectTransformSurvives(inverseFft);
+    Arguments arguments(method.newSize());
+    ASSERT_EQ(entry.call(arguments), Status::Success);
+    const Arguments before = arguments;
+    failEveryAllocation([&] { return entry.call(arguments); }, [&] { return arguments == before; });
 }
 
-TEST(TransformOutOfMemory, IsSurvivedByReFft)
+TEST_P(EntryOutOfMemory, IsSurvivedWithASizeThatIsNew)
 {
-    expectTransformSurvives(realFft);
+    for (Method& method : methods)
+        expectSurvivesNewSizes(GetParam(), method);
 }
 
-TEST(TransformOutOfMemory, IsSurvivedByReInvFft)
+TEST_P(EntryOutOfMemory, IsSurvivedWithASizeThatIsKnown)
 {
-    expectTransformSurvives(inverseRealFft);
+    for (Method& method : methods)
+        expectSurvivesAKnownSize(GetParam(), method);
 }
 
-TEST(TransformOutOfMemory, IsSurvivedBySpectrum)
+const Entry kEntries[] = {
+    {"FFT", [](Arguments& x) { return AALFunc77(x.a.data(), x.b.data(), x.n); }},
+    {"InvFFT", [](Arguments& x) { return AALFunc102(x.a.data(), x.b.data(), x.n); }},
+    {"ReFFT", [](Arguments& x) { return AALFunc147(x.a.data(), x.b.data(), x.n); }},
+    {"ReInvFFT", [](Arguments& x) { return AALFunc148(x.a.data(), x.b.data(), x.n); }},
+    {"FFTEx", [](Arguments& x) { return AALFunc262(x.a.data(), x.n - 1, x.n, nullptr, 1, x.complexB()); }},
+    {"CxFFTEx", [](Arguments& x) { return AALFunc263(x.complexA(), x.n - 1, x.n, nullptr, 1, x.complexB()); }},
+    {"InvFFTEx", [](Arguments& x) { return AALFunc264(x.complexA(), x.n, nullptr, 1, x.b.data()); }},
+    {"CxInvFFTEx", [](Arguments& x) { return AALFunc265(x.complexA(), x.n, nullptr, 1, x.complexB()); }},
+    {"FFT2D", [](Arguments& x) { return AALFunc266(x.a.data(), 3, x.n, 0, 0, 1, x.complexB()); }},
+    {"CxFFT2D", [](Arguments& x) { return AALFunc267(x.complexA(), x.n, 3, 0, 0, 1, x.complexB()); }},
+    {"InvFFT2D", [](Arguments& x) { return AALFunc268(x.complexA(), 3, x.n, 1, x.b.data()); }},
+    {"CxInvFFT2D", [](Arguments& x) { return AALFunc269(x.complexA(), x.n, 3, 1, x.complexB()); }},
+    {"Spectrum", [](Arguments& x) { return AALFunc161(x.a.data(), x.n); }},
+    {"CxSpectrum", [](Arguments& x) { return AALFunc467(x.complexA(), x.n, x.b.data()); }},
+    {"AutoPowerSpectrum", [](Arguments& x) { return AALFunc10(x.a.data(), x.n, 1, x.b.data(), &x.df); }},
+    {"AmpPhaseSpectrum", [](Arguments& x) { return AALFunc5(x.a.data(), x.n, 1, 1, x.b.data(), x.c.data(), &x.df); }},
+};
+INSTANTIATE_TEST_SUITE_P(Entries, EntryOutOfMemory, testing::ValuesIn(kEntries),
+                         [](const auto& row) { return row.param.name; });
+
+TEST(TransformOutOfMemory, IsSurvivedByALargeSize)
 {
-    expectTransformSurvives([](Signal& x) { return AALFunc161(x.re.data(), count(x.re)); });
+    expectSurvivesNewSizes(kEntries[0], large);
+    expectSurvivesAKnownSize(kEntries[0], large);
 }
 
-TEST(TransformOutOfMemory, IsSurvivedByAutoPowerSpectrum)
+TEST(FftTable, IsNullWithoutMemory)
 {
-    for (const std::size_t n : kMethods) {
-        const Array x = noise(n, 1);
-        Array s(n, -1);
-        double df = -1;
-        EXPECT_GT(failEveryAllocation([&] { return AALFunc10(x.data(), count(x), 1, s.data(), &df); },
-                                      [&] { return s == Array(n, -1) && df == -1; }),
-                  0);
+    for (Method& method : methods) {
+        const auto n = static_cast<std::int64_t>(method.newSize());
+        const auto make = [&] {
+            FftTable* const table = AALFunc260(n);
+            EXPECT_EQ(table == nullptr, support::failure.hasCome);
+            AALFunc261(table);
+        };
+        EXPECT_GT(support::failEveryAllocation(make, [](int) {}), 0);
     }
-}
-
-TEST(TransformOutOfMemory, IsSurvivedByAmpPhaseSpectrum)
-{
-    for (const std::size_t n : kMethods) {
-        const Array x = noise(n, 1);
-        Signal y = {Array(n, -1), Array(n, -1)};
-        double df = -1;
-        EXPECT_GT(failEveryAllocation([&] { return AALFunc5(x.data(), count(x), 1, 1, y.re.data(), y.im.data(), &df); },
-                                      [&] { return y.re == Array(n, -1) && y.im == Array(n, -1) && df == -1; }),
-                  0);
-    }
-}
-
-// Both run a complex transform of 15 points; only the even size has a step after it.
-TEST(TransformOutOfMemory, HasFewerOccasionsInARealTransformOfOddSize)
-{
-    const auto allocations = [](std::int64_t n) {
-        Array re(30, 1), im(30);
-        return failEveryAllocation([&] { return AALFunc147(re.data(), im.data(), n); }, [&] { return re[0] == 1; });
-    };
-    EXPECT_GT(allocations(15), 0);
-    EXPECT_LT(allocations(15), allocations(30));
 }
 
 } // namespace

@@ -44,6 +44,36 @@ inline std::int64_t count(const Array& x)
     return static_cast<std::int64_t>(x.size());
 }
 
+inline bool operator==(Complex a, Complex b)
+{
+    return a.real == b.real && a.imaginary == b.imaginary;
+}
+
+using Complexes = std::vector<Complex>;
+
+inline std::int64_t count(const Complexes& x)
+{
+    return static_cast<std::int64_t>(x.size());
+}
+
+inline Complexes interleaved(const Signal& x)
+{
+    Complexes y(x.re.size());
+    for (std::size_t i = 0; i < y.size(); ++i)
+        y[i] = {x.re[i], x.im[i]};
+    return y;
+}
+
+inline Signal separated(const Complexes& x)
+{
+    Signal y;
+    for (const Complex value : x) {
+        y.re.push_back(value.real);
+        y.im.push_back(value.imaginary);
+    }
+    return y;
+}
+
 inline Status fft(Signal& a)
 {
     return AALFunc77(a.re.data(), a.im.data(), count(a.re));

@@ -1,0 +1,114 @@
+#include "iir/filtering.h"
+
+#include "iir/cascade.h"
+#include "iir/direct_filter.h"
+#include "iir/filter_record.h"
+#include "status.h"
+
+#include <algorithm>
+#include <span>
+#include <vector>
+
+namespace quordsp::backend {
+namespace {
+
+std::size_t size(std::int32_t count)
+{
+    return static_cast<std::size_t>(std::max(count, 0));
+}
+
+constexpr double kOne = 1;
+
+// A filter without reverse coefficients divides by 1.
+std::span<const double> reverseOf(const double* a, std::int32_t na)
+{
+    return na > 0 ? std::span{a, size(na)} : std::span{&kOne, 1};
+}
+
+template <class Sample>
+void checkDirect(const Sample* x, std::int64_t n, const double* a, std::int32_t na, const double* b, std::int32_t nb,
+                 const Sample* y)
+{
+    requirePositiveCount(n);
+    requireArrays(x, y);
+    require((na <= 0 || a) && (nb <= 0 || b), Status::ArraySize);
+    require(na <= 0 || a[0] != 0, Status::DivisionByZero);
+}
+
+template <class Sample>
+void runCascade(const Sample* x, std::int64_t n, const IirFilter& filter, Sample* state, Sample* y)
+{
+    filterCascade(x, n, sectionOrder(Response{filter.type}),
+                  {sectionCount(filter.order), filter.reverse, filter.forward}, state, y);
+}
+
+} // namespace
+
+Status filterThroughCascade(const double* x, std::int64_t n, IirFilter* filter, double* y) noexcept
+{
+    return guarded([&] {
+        requirePositiveCount(n);
+        requireArrays(x, y);
+        requireConsistent(filter);
+        if (filter->reset)
+            std::fill_n(filter->state, filter->stateCount, 0.0);
+        filter->reset = 0;
+        runCascade(x, n, *filter, filter->state, y);
+    });
+}
+
+Status filterThroughCascade(const Complex* x, std::int64_t n, const IirFilter* filter, ComplexState* state,
+                            Complex* y) noexcept
+{
+    return guarded([&] {
+        requirePositiveCount(n);
+        requireArrays(x, y);
+        requireConsistent(filter);
+        if (state && state->elements && state->count == filter->reverseCount)
+            runCascade(x, n, *filter, state->elements, y);
+        else
+            runCascade(x, n, *filter, std::vector<Complex>(size(filter->reverseCount)).data(), y);
+    });
+}
+
+template <class Sample>
+Status filterThroughDirect(const Sample* x, std::int64_t n, const double* a, Sample* ya, std::int32_t na,
+                           const double* b, Sample* xb, std::int32_t nb, Sample* y) noexcept
+{
+    return guarded([&] {
+        checkDirect(x, n, a, na, b, nb, y);
+        if (na <= 0 && nb <= 0) {
+            std::copy_n(x, n, y);
+            return;
+        }
+        DirectFilter filter{reverseOf(a, na), {b, size(nb)}, kParts<Sample>};
+        filter.setPast(partsOf(ya), partsOf(xb));
+        filter.run(partsOf(x), n, partsOf(y));
+        filter.getPast(partsOf(ya), partsOf(xb));
+    });
+}
+
+template Status filterThroughDirect(const double*, std::int64_t, const double*, double*, std::int32_t, const double*,
+                                    double*, std::int32_t, double*) noexcept;
+template Status filterThroughDirect(const Complex*, std::int64_t, const double*, Complex*, std::int32_t, const double*,
+                                    Complex*, std::int32_t, Complex*) noexcept;
+
+Status filterBothWays(const double* x, std::int64_t n, const double* a, std::int32_t na, const double* b,
+                      std::int32_t nb, double* y) noexcept
+{
+    return guarded([&] {
+        checkDirect(x, n, a, na, b, nb, y);
+        if (na <= 0 && nb <= 0) {
+            std::copy_n(x, n, y);
+            return;
+        }
+        DirectFilter filter{reverseOf(a, na), {b, size(nb)}, 1};
+        filter.run(x, n, y);
+        std::reverse(y, y + n);
+        filter.setPast(nullptr, nullptr);
+        filter.run(y, n, y);
+        std::reverse(y, y + n);
+    });
+}
+
+} // namespace quordsp::backend

@@ -1,0 +1,103 @@
+#include <numbers>
+
+#include "QuorDSP_DAQ.h"
+#include "targets.h"
+
+namespace quordsp::fuzz {
+namespace {
+
+constexpr double kBefore = -7;
+constexpr int kMultiBand = 1, kDifferentiator = 2;
+
+struct Design {
+    int type, taps;
+    double fs;
+    std::vector<double> amplitudes, weights, edges;
+
+    int bands() const { return sizeOf(amplitudes); }
+};
+
+void requireDocumented(int status)
+{
+    for (const int known : {0, -20001, -20007, -20008, -20023, -20031, -20033, -20034, -20061})
+        if (status == known)
+            return;
+    require(false, "a documented status");
+}
+
+double amplitude(const std::vector<double>& h, bool isAntisymmetric, double f)
+{
+    double sum = 0;
+    for (std::size_t k = 0; k < h.size(); ++k) {
+        const double angle =
+            2 * std::numbers::pi * f * (static_cast<double>(h.size() - 1) / 2 - static_cast<double>(k));
+        sum += h[k] * (isAntisymmetric ? std::sin(angle) : std::cos(angle));
+    }
+    return sum;
+}
+
+// Nowhere on a coarse grid is the error above what was reported.
+void requireRipple(const Design& design, const std::vector<double>& h, double ripple)
+{
+    double coefficients = 0;
+    for (const double value : h)
+        coefficients += std::abs(value);
+    for (std::size_t band = 0; band < design.amplitudes.size(); ++band)
+        for (int i = 0; i <= 20; ++i) {
+            const double lower = design.edges[2 * band] / design.fs, upper = design.edges[2 * band + 1] / design.fs;
+            const double f = lower + (upper - lower) * i / 20;
+            const bool isSlope = design.type == kDifferentiator && design.amplitudes[band] != 0;
+            if (isSlope && f < 1e-6)
+                continue;
+            const double value = amplitude(h, design.type != kMultiBand, f);
+            const double error = std::abs((isSlope ? value / f : value) - design.amplitudes[band]);
+            const double rounding = 1e-13 * (coefficients + std::abs(design.amplitudes[band])) / (isSlope ? f : 1);
+            require(error * design.weights[band] <= ripple * 1.02 + rounding * design.weights[band],
+                    "the ripple is the largest error");
+        }
+}
+
+void requireResult(const Design& design)
+{
+    const std::size_t size = static_cast<std::size_t>(design.taps > 0 && design.taps <= 64 ? design.taps : 64);
+    std::vector<double> h(size, kBefore);
+    double ripple = kBefore;
+    const int status = QuorDSP_Equi_Ripple(design.bands(), design.amplitudes.data(), design.weights.data(), design.fs,
+                                           design.edges.data(), design.type, design.taps, h.data(), &ripple);
+    requireDocumented(status);
+    if (status != 0) {
+        require(h == std::vector<double>(size, kBefore) && ripple == kBefore, "a refused design writes nothing");
+        return;
+    }
+    const double sign = design.type == kMultiBand ? 1 : -1;
+    for (std::size_t k = 0; k < size; ++k)
+        require(std::isfinite(h[k]) && h[k] == sign * h[size - 1 - k], "finite and symmetric or antisymmetric");
+    require(ripple >= 0 && std::isfinite(ripple), "a ripple");
+    requireRipple(design, h, ripple);
+}
+
+} // namespace
+
+// Designs of any bands: documented statuses, nothing written by refused ones, the symmetry, the ripple as reported.
+void equiripple(Bytes bytes)
+{
+    const bool isOrdinary = bytes.byte() % 4 > 0;
+    Design design{bytes.mostlyBetween(0, 4), bytes.mostlyBetween(1, 48), 1, {}, {}, {}};
+    if (design.taps > 64 && design.taps <= 4096)
+        design.taps %= 64;
+    const int bands = bytes.between(isOrdinary, 5);
+    double edge = 0;
+    for (int band = 0; band < bands; ++band) {
+        design.amplitudes.push_back(isOrdinary ? bytes.between(-2, 4) / 2.0 : bytes.number());
+        design.weights.push_back(isOrdinary ? std::exp2(bytes.between(-8, 8)) : bytes.number());
+        for (int side = 0; side < 2; ++side) {
+            edge += bytes.byte() / (512.0 * bands);
+            design.edges.push_back(isOrdinary ? edge : bytes.number());
+        }
+    }
+    if (!isOrdinary)
+        design.fs = bytes.number();
+    requireResult(design);
+}
+
+} // namespace quordsp::fuzz

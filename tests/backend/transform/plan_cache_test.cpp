@@ -1,0 +1,68 @@
+// What transforms remember of earlier ones must not show: neither in several threads at once, nor when there are more
+// sizes than are remembered.
+#include "backend/transform/signals.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <thread>
+
+namespace quordsp::backend {
+namespace {
+
+// What entries of every kind of plan give for a size, end to end.
+Array resultsOf(std::size_t n)
+{
+    Signal z = complexNoise(n), x = complexNoise(n);
+    EXPECT_EQ(fft(z), Status::Success);
+    EXPECT_EQ(realFft(x), Status::Success);
+    Complexes matrix = interleaved(complexNoise(n)), spectrum(n);
+    EXPECT_EQ(AALFunc267(matrix.data(), 1, count(matrix), 0, 0, 0, spectrum.data()), Status::Success);
+    const Signal y = separated(spectrum);
+    Array all;
+    for (const Signal& part : {z, x, y})
+        for (const Array& values : {part.re, part.im})
+            all.insert(all.end(), values.begin(), values.end());
+    return all;
+}
+
+TEST(PlanCache, GivesTheSameBitsWhenASizeComesBack)
+{
+    std::vector<Array> first;
+    for (std::size_t n = 1; n <= 300; ++n)
+        first.push_back(resultsOf(n));
+    for (std::size_t n = 1; n <= 300; ++n)
+        EXPECT_EQ(resultsOf(n), first[n - 1]) << n;
+}
+
+TEST(PlanCache, HoldsNoMoreThanItMayOfLargeSizes)
+{
+    const Array before = resultsOf(20000);
+    for (std::size_t n = 20000; n < 20016; ++n) // a megabyte each, and more
+        resultsOf(n);
+    EXPECT_EQ(resultsOf(20000), before);
+}
+
+// Few sizes: threads meet in their plans. Many: they take each other's slots all the time.
+TEST(PlanCache, ServesThreadsThatUseTheSameAndOtherSizes)
+{
+    constexpr std::size_t kCount = 200;
+    std::vector<Array> expected(kCount);
+    for (std::size_t n = 1; n < kCount; ++n)
+        expected[n] = resultsOf(n);
+    std::atomic<int> wrong{0};
+    {
+        std::vector<std::jthread> threads;
+        for (std::size_t id = 0; id < 4; ++id)
+            threads.emplace_back([&, id] {
+                for (std::size_t i = 0; i < 300; ++i) {
+                    const std::size_t n = i % 3 == 0 ? 96 : 1 + (i * (2 * id + 7)) % (kCount - 1);
+                    wrong += resultsOf(n) == expected[n] ? 0 : 1;
+                }
+            });
+    }
+    EXPECT_EQ(wrong, 0);
+}
+
+} // namespace
+} // namespace quordsp::backend
