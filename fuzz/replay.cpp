@@ -33,6 +33,7 @@ constexpr struct {
                 {"savitzky_golay", fuzz::savitzky_golay},
                 {"equiripple", fuzz::equiripple},
                 {"narrow_band", fuzz::narrow_band},
+                {"transforms", fuzz::transforms},
                 {"write_wav", fuzz::write_wav},
                 {"write_wav_file", fuzz::write_wav_file}};
 

@@ -26,6 +26,7 @@ Target fir_filtering;
 Target savitzky_golay;
 Target equiripple;
 Target narrow_band;
+Target transforms;
 Target write_wav;
 Target write_wav_file;
 
