@@ -1,11 +1,11 @@
 // The bytes of WAV files.
 #include <cmath>
-#include <fstream>
-#include <iterator>
+#include <filesystem>
 #include <limits>
 
 #include "QuorDSP_DAQ.h"
 #include "reliability/same_results/results.h"
+#include "support/file_bytes.h"
 #include "support/integer_signal.h"
 
 namespace quordsp::same_results {
@@ -23,19 +23,6 @@ std::vector<float> samplesOf(std::size_t count)
     return samples;
 }
 
-// The bytes of the file, which is removed; empty where there is none.
-std::vector<double> bytesOf(const std::filesystem::path& path)
-{
-    std::vector<double> bytes;
-    {
-        std::ifstream file{path, std::ios::binary};
-        for (auto byte = std::istreambuf_iterator<char>{file}; byte != std::istreambuf_iterator<char>{}; ++byte)
-            bytes.push_back(static_cast<unsigned char>(*byte));
-    }
-    std::filesystem::remove(path);
-    return bytes;
-}
-
 } // namespace
 
 Results fileResults(const std::filesystem::path& folder)
@@ -46,13 +33,13 @@ Results fileResults(const std::filesystem::path& folder)
         const auto samples = samplesOf(static_cast<std::size_t>(count));
         const std::string counted = " count " + std::to_string(count);
         QuorDSP_WriteWAV(path.string().c_str(), samples.data(), count, 44100);
-        results.push_back({"QuorDSP_WriteWAV" + counted, bytesOf(path)});
+        results.push_back({"QuorDSP_WriteWAV" + counted, test::takeBytes(path)});
         for (const int bits : {8, 16, 24, 32, 12})
             for (const int channels : {1, 2, 5}) {
                 QuorDSP_WriteWAVFile(path.string().c_str(), samples.data(), count, 44100, bits, channels);
                 results.push_back({"QuorDSP_WriteWAVFile" + counted + " bits " + std::to_string(bits) + " channels " +
                                        std::to_string(channels),
-                                   bytesOf(path)});
+                                   test::takeBytes(path)});
             }
     }
     return results;
