@@ -8,7 +8,7 @@ help: ## this list
 setup: ## install the Debian packages that are missing
 	@tools/setup.sh
 
-demo: dist ## the Windows tool on real recordings: filter, spectra, vibration, furnace; out/demo/
+demo: dist ## the Windows tool on five real recordings: filters, spectra, vibration, beats, furnace; out/demo/
 	@tools/demo.sh
 
 test: setup ## every check and test, on Windows (through Wine) and Linux

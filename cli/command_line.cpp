@@ -171,6 +171,7 @@ template Option Command::option(const std::string&, fs::path&, const std::string
 template Option Command::option(const std::string&, std::optional<int>&, const std::string&);
 template Option Command::option(const std::string&, std::optional<double>&, const std::string&);
 template Option Command::option(const std::string&, std::vector<double>&, const std::string&);
+template Option Command::option(const std::string&, std::vector<std::string>&, const std::string&);
 
 void Command::run(std::function<void()> work)
 {

@@ -30,6 +30,9 @@ std::string loadedModulePath(const std::string& fileName);
 // The full path of the module that contains an address; empty when there is none.
 std::string modulePathOf(const void* address);
 
+// The address of a function that a loaded module exports, the module by its file name; null when there is none.
+void* functionOf(const std::string& fileName, const char* function);
+
 // The version that a module file states about itself; empty when it states none.
 std::string moduleVersion(const std::string& path);
 

@@ -64,6 +64,17 @@ std::string modulePathOf(const void* address)
     return dladdr(address, &info) != 0 && info.dli_fname ? absolute(info.dli_fname) : "";
 }
 
+void* functionOf(const std::string& fileName, const char* function)
+{
+    const std::string path = loadedModulePath(fileName);
+    void* const module = path.empty() ? nullptr : dlopen(path.c_str(), RTLD_NOW | RTLD_NOLOAD);
+    if (!module)
+        return nullptr;
+    void* const address = dlsym(module, function);
+    dlclose(module); // it stays loaded: the one who loaded it has it open
+    return address;
+}
+
 std::string moduleVersion(const std::string&)
 {
     return {}; // a shared object carries none

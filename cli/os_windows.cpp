@@ -120,6 +120,12 @@ std::string modulePathOf(const void* address)
     return GetModuleHandleExA(kByAddress, static_cast<const char*>(address), &module) ? pathOf(module) : "";
 }
 
+void* functionOf(const std::string& fileName, const char* function)
+{
+    const HMODULE module = GetModuleHandleA(fileName.c_str());
+    return module ? reinterpret_cast<void*>(GetProcAddress(module, function)) : nullptr;
+}
+
 std::string moduleVersion(const std::string& path)
 {
     DWORD ignored = 0;

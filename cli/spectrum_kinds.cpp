@@ -54,6 +54,13 @@ const SpectrumKind& spectrumKind(std::string_view name)
     return *std::ranges::find(kKinds, name, &SpectrumKind::name);
 }
 
+AnalysisLibErrType phaseSpectrum(std::span<const double> in, bool unwrap, double interval, double* phase)
+{
+    std::vector<double> level(binCount(in.size()));
+    double spacing = 0;
+    return QuorDSP_AmpPhaseSpectrum(in.data(), count(in), unwrap ? 1 : 0, interval, level.data(), phase, &spacing);
+}
+
 std::size_t binCount(std::size_t samples)
 {
     return std::max<std::size_t>(samples / 2, 1);

@@ -23,6 +23,9 @@ std::span<const SpectrumKind> spectrumKinds();
 // The kind of that name; the names are fixed by the options.
 const SpectrumKind& spectrumKind(std::string_view name);
 
+// The phase of the same bins, that of a cosine, in radians. Unwrapped, neighbours differ by half a turn at most.
+AnalysisLibErrType phaseSpectrum(std::span<const double> in, bool unwrap, double interval, double* phase);
+
 // How many bins a signal of so many samples has.
 std::size_t binCount(std::size_t samples);
 

@@ -1,6 +1,5 @@
 #include "strongest_line.h"
 
-#include <algorithm>
 #include <limits>
 
 namespace quordsp::cli {
@@ -11,17 +10,23 @@ double roundingLevel(double offsetLevel, std::size_t count, bool squared)
     return offsetLevel * (squared ? relative * relative : relative);
 }
 
+std::optional<std::size_t> highestBin(std::span<const double> levels, std::size_t zero, double floor)
+{
+    std::optional<std::size_t> highest;
+    for (std::size_t bin = 0; bin < levels.size(); ++bin)
+        if (bin != zero && levels[bin] > (highest ? levels[*highest] : floor))
+            highest = bin;
+    return highest;
+}
+
 std::optional<StrongestLine> findStrongestLine(std::span<const double> samples, double rate,
                                                std::span<const double> levels, double floor)
 {
-    if (levels.size() < 2)
+    const auto bin = highestBin(levels, 0, floor);
+    if (!bin)
         return std::nullopt;
-    const auto highest = std::max_element(levels.begin() + 1, levels.end());
-    if (!(*highest > floor))
-        return std::nullopt;
-    const auto bin = static_cast<std::size_t>(highest - levels.begin());
-    const double frequency = static_cast<double>(bin) * rate / static_cast<double>(samples.size());
-    return StrongestLine{bin, frequency, fitSine(samples, rate, frequency)};
+    const double frequency = static_cast<double>(*bin) * rate / static_cast<double>(samples.size());
+    return StrongestLine{*bin, frequency, fitSine(samples, rate, frequency)};
 }
 
 } // namespace quordsp::cli

@@ -17,6 +17,9 @@ struct StrongestLine {
 // DC; levels of power are squared.
 double roundingLevel(double offsetLevel, std::size_t count, bool squared);
 
+// The bin of the highest level besides that of 0 Hz; nothing when none is above the floor, the level of rounding.
+std::optional<std::size_t> highestBin(std::span<const double> levels, std::size_t zero, double floor);
+
 // The levels are those of the single-sided spectrum of the samples. Nothing when there is no bin besides DC or none is
 // above the floor, the level of rounding.
 std::optional<StrongestLine> findStrongestLine(std::span<const double> samples, double rate,

@@ -5,7 +5,10 @@
 
 #define QUORDSP_COMMANDS(ROW)                                                                                          \
     ROW(filter, "Filter a signal: low-pass, high-pass, band-pass or band-stop")                                        \
-    ROW(spectrum, "Amplitude or power spectrum of a signal, and its strongest line")                                   \
+    ROW(response, "Magnitude, phase and group delay of a filter")                                                      \
+    ROW(spectrum, "Amplitude, power and phase spectrum of a signal, and its strongest line")                           \
+    ROW(peaks, "Peaks or valleys of a signal, and how far apart they are")                                             \
+    ROW(stats, "Mean, rms, extremes, median and percentiles of a signal")                                              \
     ROW(detrend, "A signal without its polynomial trend, which may bend at breakpoints")                               \
     ROW(vibration, "Acceleration to velocity and displacement")                                                        \
     ROW(thermocouple, "Thermocouple voltages to temperatures")                                                         \

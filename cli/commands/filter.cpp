@@ -1,14 +1,14 @@
-// quordsp filter: one column through one of the filter designs.
+// quordsp filter: one column through one of the filter designs, or through several to compare them.
+#include <algorithm>
 #include <iostream>
 #include <memory>
-#include <set>
 #include <string>
 #include <vector>
 
 #include "commands/commands.h"
 #include "csv_writer.h"
 #include "failure.h"
-#include "filter_designs.h"
+#include "filter_choice.h"
 #include "input.h"
 #include "number.h"
 #include "options.h"
@@ -22,90 +22,112 @@ namespace {
 struct Options {
     InputChoice input;
     OutputChoice output;
-    std::string family = "butterworth";
-    std::string response;
-    int order = 0;
-    std::vector<double> cutoff;
+    FilterChoice filter;
+    bool zeroPhase = false;
+    std::vector<double> view;
 };
 
-std::vector<std::string> named(std::string_view FilterDesign::* column)
+struct Filtered {
+    std::string name; // of the column and the curve
+    std::vector<double> samples;
+};
+
+void requireIirForZeroPhase(const std::vector<ChosenFilter>& filters)
 {
-    std::set<std::string> names;
-    for (const FilterDesign& design : filterDesigns())
-        names.emplace(design.*column);
-    return {names.begin(), names.end()};
+    for (const ChosenFilter& filter : filters)
+        if (filter.family.coefficients)
+            throw Failure(ExitCode::Usage, "--zero-phase is not for " + std::string(filter.family.name),
+                          "a FIR filter delays every frequency by (taps - 1)/2 samples: shift its output");
 }
 
-const FilterDesign& chooseDesign(const Options& options)
+std::vector<double> runOnce(const ChosenFilter& filter, const FilterRequest& request, const std::vector<double>& in)
 {
-    const FilterDesign* const design = findDesign(options.family, options.response);
-    if (!design)
-        throw Failure(ExitCode::Usage, "there is no " + options.family + " " + options.response,
-                      "choose another --family");
-    if (std::ssize(options.cutoff) != design->edges)
-        throw Failure(ExitCode::Usage,
-                      options.response + " takes " + std::to_string(design->edges) + " --cutoff frequencies, not " +
-                          std::to_string(options.cutoff.size()),
-                      design->edges == 2 ? "give the lower and the upper edge" : "give one frequency");
-    return *design;
-}
-
-// "bandpass 90 to 110 Hz"
-std::string describeResponse(const Options& options)
-{
-    std::string text = options.response + " " + rounded(options.cutoff.front());
-    if (options.cutoff.size() > 1)
-        text += " to " + rounded(options.cutoff.back());
-    return text + " Hz";
-}
-
-std::string describeDesign(const Options& options)
-{
-    return options.family + " of order " + std::to_string(options.order);
-}
-
-std::string describe(const Options& options)
-{
-    return describeResponse(options) + ", " + describeDesign(options);
-}
-
-std::vector<double> filtered(const Series& series, const Options& options, const FilterDesign& design)
-{
-    std::vector<double> out(series.samples.size());
-    const FilterRequest request{
-        series.samples, series.rate, {options.cutoff.front(), options.cutoff.back()}, options.order};
+    std::vector<double> out(in.size());
     const auto status = [&] {
         const Progress progress("filtering");
-        return design.run(request, out.data());
+        return filter.family.run(request, in, out.data());
     }();
-    check(status, describe(options) + " at " + rounded(series.rate) + " Hz");
+    check(status, filter.describe() + " at " + rounded(request.rate) + " Hz");
     return out;
 }
 
-Plot plotOf(const Series& series, const std::vector<double>& out, const Options& options)
+// Forwards and backwards through the sections: the direct form, which the library has an export for, is far from the
+// design when the order is high or the band narrow.
+std::vector<double> runBothWays(const ChosenFilter& filter, const FilterRequest& request, const std::vector<double>& in)
+{
+    std::vector<double> out = runOnce(filter, request, in);
+    std::ranges::reverse(out);
+    out = runOnce(filter, request, out);
+    std::ranges::reverse(out);
+    return out;
+}
+
+std::vector<Filtered> filtered(const Series& series, const std::vector<ChosenFilter>& filters, bool zeroPhase)
+{
+    std::vector<Filtered> results;
+    for (const ChosenFilter& filter : filters) {
+        FilterRequest request = filter.request;
+        request.rate = series.rate;
+        results.push_back({filters.size() > 1 ? std::string(filter.family.name) : "filtered",
+                           (zeroPhase ? runBothWays : runOnce)(filter, request, series.samples)});
+    }
+    return results;
+}
+
+Plot plotOf(const Series& series, const std::vector<Filtered>& results, const std::vector<ChosenFilter>& filters,
+            const Options& options, const SampleRange& view)
 {
     Plot plot = timePlot(series);
-    plot.title = series.label.quantity + ", " + describeResponse(options);
-    plot.subtitle =
-        display(options.input.path.filename()) + ", " + describeDesign(options) + ", " + rounded(series.rate) + " Hz";
-    plot.panels = {{.yLabel = series.label.axis(), .curves = {{"input", series.samples}, {"filtered", out}}}};
+    plot.title = series.label.quantity + ", " + describeBand(filters);
+    plot.subtitle = display(options.input.path.filename()) + ", " +
+                    (filters.size() > 1 ? "" : filters.front().design + ", ") + rounded(series.rate) + " Hz";
+    plot.panels = {{.yLabel = series.label.axis(), .curves = {{"input", series.samples}}}};
+    if (results.size() > 1)
+        plot.panels.push_back(
+            {.yLabel = "filtered" + series.label.axis().substr(series.label.quantity.size()), .compared = true});
+    for (const Filtered& result : results)
+        plot.panels.back().curves.push_back({result.name, result.samples});
+    show(plot, view);
     return plot;
+}
+
+SampleRange viewOf(const Series& series, const Options& options)
+{
+    if (options.view.empty())
+        return {0, series.samples.size()};
+    return samplesWithin(series, {options.view[0], options.view[1]}, "the two times of --view");
+}
+
+void print(const Series& series, const std::vector<ChosenFilter>& filters)
+{
+    std::cout << counted(series.samples.size(), "sample") << " of " << printable(series.label.axis()) << " at "
+              << rounded(series.rate) << " Hz:";
+    for (const ChosenFilter& filter : filters)
+        std::cout << (filters.size() > 1 ? "\n  " : " ") << filter.describe();
+    std::cout << '\n';
+    for (const ChosenFilter& filter : filters)
+        if (filter.family.coefficients)
+            std::cout << "delay of " << filter.family.name << ": " << rounded((filter.request.taps - 1) / 2.0)
+                      << " samples, " << rounded((filter.request.taps - 1) / 2.0 / series.rate) << " s\n";
 }
 
 void run(const Options& options)
 {
     requireDifferentFiles(options.input, options.output);
-    const FilterDesign& design = chooseDesign(options);
+    const std::vector<ChosenFilter> filters = chosenFilters(options.filter);
+    if (options.zeroPhase)
+        requireIirForZeroPhase(filters);
     const Series series = readSeries(options.input);
-    const std::vector<double> out = filtered(series, options, design);
+    const SampleRange view = viewOf(series, options);
+    const std::vector<Filtered> results = filtered(series, filters, options.zeroPhase);
     const std::string& unit = series.label.unit;
-    writeResult(options.output,
-                {{"time_s", [&](std::size_t i) { return series.time(i); }},
-                 {columnName("input", unit), [&](std::size_t i) { return series.samples[i]; }},
-                 {columnName("filtered", unit), [&](std::size_t i) { return out[i]; }}},
-                out.size(), [&] { return plotOf(series, out, options); });
-    std::cout << counted(out.size(), "sample") << " of " << printable(series.label.axis()) << " at "
-              << rounded(series.rate) << " Hz: " << describe(options) << '\n';
+    std::vector<OutputColumn> columns{{"time_s", [&](std::size_t i) { return series.time(i); }},
+                                      {columnName("input", unit), [&](std::size_t i) { return series.samples[i]; }}};
+    for (const Filtered& result : results)
+        columns.push_back({columnName(result.name, unit), [&](std::size_t i) { return result.samples[i]; }});
+    writeResult(options.output, columns, series.samples.size(),
+                [&] { return plotOf(series, results, filters, options, view); });
+    print(series, filters);
     printWritten(options.output);
 }
 
@@ -116,21 +138,15 @@ void filter(Command& command)
     const auto options = std::make_shared<Options>();
     addInput(command, options->input);
     addOutput(command, options->output);
-    command.option("--response", options->response, "What passes").required().oneOf(named(&FilterDesign::response));
-    command
-        .option("--order", options->order,
-                "Order of the low-pass prototype, 1 or more; a band filter has twice the poles")
-        .whole()
-        .required();
-    command
-        .option("--cutoff", options->cutoff,
-                "Frequency of half power (-3 dB); two ascending ones for a band.\n"
-                "INPUT goes before it")
-        .required()
-        .values(1, 2)
+    addFilter(command, options->filter);
+    command.option("--zero-phase", options->zeroPhase,
+                   "Run an IIR filter forwards and backwards: no delay, twice the attenuation,\n"
+                   "transients at both ends");
+    command.option("--view", options->view, "Draw only what lies between these times")
+        .values(2, 2)
         .number()
-        .placeholder("HZ [HZ]");
-    command.option("--family", options->family, "Design").oneOf(named(&FilterDesign::family)).showDefault();
+        .placeholder("S S")
+        .needs("--plot");
     command.run([options] { run(*options); });
 }
 

@@ -3,6 +3,7 @@
 #include <iostream>
 #include <iterator>
 #include <string>
+#include <vector>
 
 #include "commands/commands.h"
 #include "failure.h"
@@ -19,11 +20,28 @@ const void* insideLibrary()
     return reinterpret_cast<const void*>(&QuorDSP_Bw_LPF);
 }
 
-AnalysisLibErrType tryDesign(const FilterDesign& design)
+struct Filter {
+    const FilterFamily& family;
+    int type;
+};
+
+// Every family in every response.
+std::vector<Filter> allFilters()
+{
+    std::vector<Filter> list;
+    for (const FilterFamily& family : filterFamilies())
+        for (int type = 0; type < std::ssize(kResponses); ++type)
+            list.push_back({family, type});
+    return list;
+}
+
+AnalysisLibErrType tryFilter(const Filter& filter)
 {
     const double in = 1;
     double out = 0;
-    return design.run({{&in, 1}, 10, {1, 2}, 1}, &out);
+    return filter.family.run(
+        {.type = filter.type, .rate = 10, .edges = {1, 2, 3, 4}, .order = 1, .taps = 3, .ripple = 1, .attenuation = 20},
+        {&in, 1}, &out);
 }
 
 AnalysisLibErrType trySpectrum(const SpectrumKind& kind)
@@ -42,6 +60,21 @@ bool printEntries(const char* what, const Rows& rows, Try tryOne)
     const auto wanted = std::ssize(rows);
     std::cout << what << there << " of " << wanted << " have their entry in the backend\n";
     return there == wanted;
+}
+
+constexpr const char* kEntries[] = {
+#include "backend_entries.inc"
+};
+
+void printAllEntries()
+{
+    std::vector<const char*> missing;
+    std::ranges::remove_copy_if(kEntries, std::back_inserter(missing),
+                                [](const char* name) { return os::functionOf(os::kBackendFile, name) != nullptr; });
+    std::cout << "entries  " << std::size(kEntries) - missing.size() << " of " << std::size(kEntries)
+              << " that the library's header names are in the backend\n";
+    for (const char* const name : missing)
+        std::cout << "         " << name << " is not\n";
 }
 
 void printPlaces()
@@ -63,7 +96,8 @@ void printBackend()
     const std::string version = os::moduleVersion(path);
     std::cout << "backend  " << (path.empty() ? "loaded, but the system does not tell from where" : path) << '\n'
               << "version  " << (version.empty() ? "the module states none" : version) << '\n';
-    const bool filters = printEntries("filters  ", filterDesigns(), tryDesign);
+    printAllEntries();
+    const bool filters = printEntries("filters  ", allFilters(), tryFilter);
     const bool spectra = printEntries("spectra  ", spectrumKinds(), trySpectrum);
     if (!filters || !spectra)
         throw Failure(ExitCode::BackendMissing, "the analysis backend lacks entries", "install a complete backend");
@@ -71,7 +105,7 @@ void printBackend()
 
 void run()
 {
-    const AnalysisLibErrType status = tryDesign(filterDesigns().front());
+    const AnalysisLibErrType status = tryFilter(allFilters().front());
     std::cout << "tool     quordsp " QUORDSP_VERSION "\n" << "library  " << os::modulePathOf(insideLibrary()) << '\n';
     if (status != QUORDSP_BACKEND_NOT_FOUND) {
         printBackend();

@@ -1,4 +1,5 @@
-// quordsp spectrum: the single-sided spectrum of one column, and the sine behind its strongest line.
+// quordsp spectrum: the spectrum of one column, single-sided, or of two as a complex signal, two-sided; and what stands
+// behind its strongest line.
 #include <algorithm>
 #include <cmath>
 #include <iostream>
@@ -6,6 +7,7 @@
 #include <numbers>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "commands/commands.h"
@@ -13,10 +15,7 @@
 #include "input.h"
 #include "number.h"
 #include "options.h"
-#include "progress.h"
-#include "spectrum_kinds.h"
-#include "status.h"
-#include "strongest_line.h"
+#include "spectrum.h"
 
 namespace quordsp::cli::command {
 namespace {
@@ -25,43 +24,48 @@ struct Options {
     InputChoice input;
     OutputChoice output;
     Span span;
-    std::string amplitude = "rms";
-    bool power = false;
+    std::string imaginary; // column; empty: the signal is real
+    SpectrumChoice choice;
 
-    [[nodiscard]] const SpectrumKind& kind() const { return spectrumKind(power ? "power" : amplitude); }
+    [[nodiscard]] bool isComplex() const { return !imaginary.empty(); }
 };
 
-struct Spectrum {
-    const SpectrumKind& kind;
-    std::vector<double> levels;
-    double spacing; // Hz between two bins
-    std::optional<StrongestLine> line;
+struct Signal {
+    Series series; // with the label of the whole signal
+    std::vector<double> imaginary;
 };
 
-Spectrum spectrumOf(const Series& series, const SpectrumKind& kind)
+void requireSameUnit(const Label& real, const Label& imaginary)
 {
-    const std::size_t count = series.samples.size();
-    std::vector<double> levels(binCount(count));
-    const auto status = [&] {
-        const Progress progress("transforming");
-        return kind.run(series.samples, 1 / series.rate, levels.data());
-    }();
-    check(status, std::string(kind.name) + " spectrum");
-    const Progress progress("fitting a sine");
-    auto line = findStrongestLine(series.samples, series.rate, levels, roundingLevel(levels[0], count, kind.squared));
-    return {kind, std::move(levels), series.rate / static_cast<double>(count), line};
+    if (real.unit != imaginary.unit)
+        throw Failure(ExitCode::Usage,
+                      "the real part is '" + real.axis() + "', the imaginary part '" + imaginary.axis() + "'",
+                      "choose two columns of the same unit");
 }
 
-std::string levelUnit(const Series& series, const SpectrumKind& kind)
+Signal readSignal(const Options& options)
 {
-    return kind.squared ? squared(series.label.unit) : series.label.unit;
+    Signal signal{cut(readSeries(options.input), options.span), {}};
+    if (!options.isComplex())
+        return signal;
+    InputChoice choice = options.input;
+    choice.column = options.imaginary;
+    Series imaginary = cut(readSeries(choice), options.span);
+    requireSameUnit(signal.series.label, imaginary.label);
+    signal.series.label.quantity += " + j " + imaginary.label.quantity;
+    signal.imaginary = std::move(imaginary.samples);
+    return signal;
 }
 
-// "amplitude, rms (g)"
-Label levelLabel(const Series& series, const SpectrumKind& kind)
+Spectrum spectrumOf(const Signal& signal, const Options& options)
 {
-    const std::string quantity = kind.squared ? "power" : "amplitude, " + std::string(kind.name);
-    return {quantity, levelUnit(series, kind)};
+    return options.isComplex() ? twoSidedSpectrum(signal.series, signal.imaginary, options.choice)
+                               : oneSidedSpectrum(signal.series, options.choice);
+}
+
+double spacingOf(const Series& series)
+{
+    return series.rate / static_cast<double>(series.samples.size());
 }
 
 std::string amplitudeText(double peak, const std::string& unit)
@@ -78,13 +82,8 @@ const char* whyNoLine(const std::vector<double>& levels)
     return finite ? "the signal is constant" : "the levels are not finite";
 }
 
-void printLine(const Spectrum& spectrum, const std::string& unit)
+void printSine(const StrongestLine& line, const std::string& unit)
 {
-    if (!spectrum.line) {
-        std::cout << "strongest line: none, " << whyNoLine(spectrum.levels) << '\n';
-        return;
-    }
-    const StrongestLine& line = *spectrum.line;
     if (line.sine)
         std::cout << "strongest line: " << rounded(line.sine->frequency, 8) << " Hz, "
                   << amplitudeText(line.sine->amplitude, unit) << '\n'
@@ -92,8 +91,19 @@ void printLine(const Spectrum& spectrum, const std::string& unit)
                   << rounded(100 * (1 - line.sine->share), 3) << " % of the variance\n";
     else
         std::cout << "strongest line: no single sine fits around the highest bin; its reading is all there is\n";
-    std::cout << "highest bin:    " << rounded(line.frequency, 8) << " Hz, "
-              << amplitudeText(spectrum.kind.peakOf(spectrum.levels[line.bin]), unit) << '\n';
+}
+
+void printLine(const Spectrum& spectrum, const std::string& unit, bool isComplex)
+{
+    if (!spectrum.line) {
+        std::cout << "strongest line: none, " << whyNoLine(spectrum.levels) << '\n';
+        return;
+    }
+    if (!isComplex)
+        printSine(*spectrum.line, unit);
+    const double amplitude = spectrum.peakOf(spectrum.levels[spectrum.line->bin]);
+    std::cout << "highest bin:    " << rounded(spectrum.line->frequency, 8) << " Hz, "
+              << (isComplex ? withUnit(rounded(amplitude, 5), unit) : amplitudeText(amplitude, unit)) << '\n';
 }
 
 std::optional<Callout> calloutOf(const Spectrum& spectrum, const std::string& unit)
@@ -107,34 +117,50 @@ std::optional<Callout> calloutOf(const Spectrum& spectrum, const std::string& un
 
 Plot plotOf(const Series& series, const Spectrum& spectrum, const Options& options)
 {
-    return {.title = series.label.quantity + ", " + (spectrum.kind.squared ? "power" : "amplitude") + " spectrum",
-            .subtitle = display(options.input.path.filename()) + ", " + rounded(series.start) + " s to " +
-                        rounded(series.time(series.samples.size())) + " s, " +
-                        counted(series.samples.size(), "sample") + ", bins " + rounded(spectrum.spacing, 4) +
-                        " Hz apart",
-            .xLabel = "frequency (Hz)",
-            .xStep = spectrum.spacing,
-            .panels = {{.yLabel = levelLabel(series, spectrum.kind).axis(),
-                        .logarithmic = true,
-                        .curves = {{series.label.quantity, spectrum.levels}},
-                        .callout = calloutOf(spectrum, series.label.unit)}}};
+    const double spacing = spacingOf(series);
+    Plot plot{.title = series.label.quantity + ", " + (spectrum.squared ? "power" : "amplitude") + " spectrum",
+              .subtitle = display(options.input.path.filename()) + ", " + rounded(series.start) + " s to " +
+                          rounded(series.time(series.samples.size())) + " s, " +
+                          counted(series.samples.size(), "sample") + ", bins " + rounded(spacing, 4) + " Hz apart",
+              .xLabel = "frequency (Hz)",
+              .xStart = -static_cast<double>(spectrum.zero) * spacing,
+              .xStep = spacing,
+              .panels = {{.yLabel = spectrum.level.axis(),
+                          .logarithmic = true,
+                          .curves = {{series.label.quantity, spectrum.levels}},
+                          .callout = calloutOf(spectrum, series.label.unit)}}};
+    if (!spectrum.phases.empty())
+        plot.panels.push_back({.yLabel = "phase (deg)", .curves = {{"", spectrum.phases}}});
+    return plot;
+}
+
+// The columns look into the spectrum, which must outlive them.
+std::vector<OutputColumn> columnsOf(const Series& series, const Spectrum& spectrum)
+{
+    const auto frequency = [zero = static_cast<double>(spectrum.zero), rate = series.rate,
+                            count = static_cast<double>(series.samples.size())](std::size_t bin) {
+        return (static_cast<double>(bin) - zero) * rate / count;
+    };
+    std::vector<OutputColumn> columns{
+        {"frequency_Hz", frequency},
+        {columnName(spectrum.quantity, spectrum.level.unit), [&](std::size_t bin) { return spectrum.levels[bin]; }}};
+    if (!spectrum.phases.empty())
+        columns.push_back({"phase_deg", [&](std::size_t bin) { return spectrum.phases[bin]; }});
+    return columns;
 }
 
 void run(const Options& options)
 {
     requireDifferentFiles(options.input, options.output);
-    const Series series = cut(readSeries(options.input), options.span);
-    const Spectrum spectrum = spectrumOf(series, options.kind());
-    const auto count = static_cast<double>(series.samples.size());
-    const std::string name = columnName(spectrum.kind.quantity, levelUnit(series, spectrum.kind));
-    writeResult(options.output,
-                {{"frequency_Hz", [&](std::size_t i) { return static_cast<double>(i) * series.rate / count; }},
-                 {name, [&](std::size_t i) { return spectrum.levels[i]; }}},
-                spectrum.levels.size(), [&] { return plotOf(series, spectrum, options); });
+    const Signal signal = readSignal(options);
+    const Series& series = signal.series;
+    const Spectrum spectrum = spectrumOf(signal, options);
+    writeResult(options.output, columnsOf(series, spectrum), spectrum.levels.size(),
+                [&] { return plotOf(series, spectrum, options); });
     std::cout << counted(series.samples.size(), "sample") << " of " << printable(series.label.axis()) << " at "
               << rounded(series.rate) << " Hz\n";
-    printLine(spectrum, printable(series.label.unit));
-    std::cout << "bin spacing:    " << rounded(spectrum.spacing) << " Hz\n";
+    printLine(spectrum, printable(series.label.unit), options.isComplex());
+    std::cout << "bin spacing:    " << rounded(spacingOf(series)) << " Hz\n";
     printWritten(options.output);
 }
 
@@ -145,10 +171,20 @@ void spectrum(Command& command)
     const auto options = std::make_shared<Options>();
     addInput(command, options->input);
     addOutput(command, options->output);
-    command.option("--amplitude", options->amplitude, "What a line shows of its sine; DC is its value")
+    command
+        .option("--imaginary", options->imaginary,
+                "Column of the imaginary part; --column is the real part then, and the\n"
+                "spectrum two-sided: as many bins as samples, from negative frequencies to\n"
+                "positive ones, with the amplitude of the exponential in each")
+        .placeholder("NAME|INDEX");
+    command.option("--amplitude", options->choice.amplitude, "What a line shows of its sine; DC is its value")
         .oneOf({"rms", "peak"})
-        .showDefault();
-    command.option("--power", options->power, "Power, the square of the rms amplitude").excludes("--amplitude");
+        .showDefault()
+        .excludes("--imaginary");
+    command.option("--power", options->choice.power, "Power, the square of the rms amplitude").excludes("--amplitude");
+    command.option("--phase", options->choice.phase,
+                   "Also the phase, of a cosine at the time of the first sample, in degrees");
+    command.option("--unwrap", options->choice.unwrap, "Without jumps of whole turns from bin to bin").needs("--phase");
     addSpan(command, options->span);
     command.run([options] { run(*options); });
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <set>
 #include <utility>
 
 #include "number.h"
@@ -33,6 +34,7 @@ constexpr double kLegendText = 220;  // at most
 constexpr double kLegendLine = 22;
 constexpr double kGap = 20;
 constexpr double kDotRadius = 1.5;
+constexpr double kMarkRadius = 3;
 
 constexpr const char* kFont = R"(font-family="'Segoe UI', 'Helvetica Neue', Arial, 'Liberation Sans', sans-serif" )"
                               R"(font-size="13" fill="#3c4650")";
@@ -40,6 +42,9 @@ constexpr const char* kTitleFont = R"(font-size="19" font-weight="600" fill="#1c
 constexpr const char* kMuted = R"(fill="#6b7681")";
 constexpr const char* kFrontColour = "#1a5fa8";
 constexpr const char* kBackColour = "#b3bfca";
+// Of curves that are compared, from the last one on: of about the same lightness, apart also for the colour-blind.
+constexpr const char* kComparedColours[] = {kFrontColour, "#d1650f", "#14866d", "#a33a8c",
+                                            "#8a6d00",    "#c22f3d", "#5b6cc9", "#5f6b76"};
 
 struct Scale {
     Range range;
@@ -90,6 +95,8 @@ Range extentOf(const Panel& panel)
     Range extent = kNoExtent;
     for (const Curve& curve : panel.curves)
         extent = extentOf(curve.samples, panel.logarithmic, extent);
+    for (const Mark& mark : panel.marks)
+        extent = extentOf({&mark.y, 1}, panel.logarithmic, extent);
     return extent;
 }
 
@@ -218,7 +225,10 @@ void drawYLabel(Picture& picture, const Area& area)
 
 const char* colour(const Panel& panel, const Curve& curve)
 {
-    return &curve == &panel.curves.back() ? kFrontColour : kBackColour;
+    const auto fromLast = static_cast<std::size_t>(&panel.curves.back() - &curve);
+    if (panel.compared)
+        return kComparedColours[fromLast % std::size(kComparedColours)];
+    return fromLast == 0 ? kFrontColour : kBackColour;
 }
 
 std::string strokeAttributes(const char* strokeColour, const char* width)
@@ -297,11 +307,26 @@ void drawCallout(Picture& picture, const Area& area, const Callout& callout)
     picture.svg.close();
 }
 
+// Of marks that lie on one another the first stands for all.
+void drawMarks(Picture& picture, const Area& area)
+{
+    std::set<std::pair<int, int>> taken;
+    picture.svg.open(R"(fill="#ffffff" stroke="#c2410c" stroke-width="1.5")");
+    for (const Mark& mark : area.panel.marks) {
+        const Point at{picture.x(mark.x), area.y(mark.y)};
+        if (taken.emplace(static_cast<int>(at.x), static_cast<int>(at.y)).second)
+            picture.svg.circle(at, kMarkRadius, "");
+    }
+    picture.svg.close();
+}
+
 void drawPanel(Picture& picture, const Area& area)
 {
     drawGrid(picture, area);
     drawYTickLabels(picture, area);
     drawCurves(picture, area);
+    if (!area.panel.marks.empty())
+        drawMarks(picture, area);
     drawFrame(picture, area);
     drawYLabel(picture, area);
     if (area.panel.callout)

@@ -19,11 +19,19 @@ struct Callout {
     std::string text;
 };
 
+// A point that is marked, where there may be many.
+struct Mark {
+    double x;
+    double y;
+};
+
 struct Panel {
     std::string yLabel;
-    bool logarithmic = false;  // the y axis, in decades; what is not positive lies at its lower end
-    std::vector<Curve> curves; // the last one is drawn on top and stands out
+    bool logarithmic = false;       // the y axis, in decades; what is not positive lies at its lower end
+    std::vector<Curve> curves = {}; // the last one is drawn on top and stands out
     std::optional<Callout> callout = std::nullopt;
+    bool compared = false; // the curves are of one kind: each has a colour of its own
+    std::vector<Mark> marks = {};
 };
 
 struct Plot {

@@ -8,7 +8,8 @@ export LC_ALL
 program=$1 library=$2 backend=$3 source=$4 emulator=${5:-}
 shaker=$source/examples/data/vibration_shaker_5khz.csv
 furnace=$source/examples/data/thermocouple_k_250c.csv
-bell=$source/tests/data/cli/audio_bell_44k1.wav
+bell=$source/examples/data/audio_bell_44k1.wav
+ecg=$source/examples/data/ecg_360hz.csv
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
@@ -68,7 +69,7 @@ says "quordsp "
 run 0 --help
 says "spectrum"
 says "3  the analysis backend is missing"
-for command in filter spectrum detrend vibration thermocouple wav info; do
+for command in filter response spectrum peaks stats detrend vibration thermocouple wav info; do
     run 0 $command --help
     says "Exit codes"
 done
@@ -76,8 +77,9 @@ done
 # The backend, when it is there and when it is not.
 run 0 info
 backend_is_in "$(basename "$backend")"
-says "filters  4 of 4"
+says "filters  32 of 32"
 says "spectra  3 of 3"
+says "entries  124 of 124"
 program_kept=$program program=$alone path_kept=${WINEPATH:-}
 unset LD_LIBRARY_PATH WINEPATH
 run 3 info
@@ -120,6 +122,85 @@ run 0 spectrum "$shaker" --rate 5000 --from 3 --to 7 --power -o p.csv
 grep -qE '^100,51\.[0-9]+$' p.csv || fail "$what: half the square of the amplitude"
 only_left "f.csv f.svg p.csv s.csv s.svg"
 
+# Phase, and a complex signal: 2 V at -100 Hz with a phase of 30 degrees and 0.5 V at 50 Hz, over one second.
+awk 'BEGIN { turn = 8 * atan2(1, 1); print "t_s,i_V,q_V"
+    for (k = 0; k < 400; ++k) { a = turn * (1 / 12 - 100 * k / 400); b = turn * 50 * k / 400
+        print k / 400 "," 2 * cos(a) + 0.5 * cos(b) "," 2 * sin(a) + 0.5 * sin(b) } }' >iq.csv
+run 0 spectrum iq.csv --imaginary q_V --phase -o s.csv --plot s.svg
+says "400 samples of i + j q (V) at 400 Hz"
+says "highest bin:    -100 Hz, 2 V"
+[ "$(head -n 1 s.csv)" = "frequency_Hz,amplitude_V,phase_deg" ] || fail "$what: the names of the columns"
+[ "$(wc -l <s.csv)" -eq 401 ] || fail "$what: the number of rows"
+grep -q '^-200,' s.csv || fail "$what: the lowest frequency"
+grep -q '^199,' s.csv || fail "$what: the highest frequency"
+# awk has written six digits.
+near() {
+    awk -F, -v row="$1" -v column="$2" -v wanted="$3" '$1 == row { found = 1; off = $column - wanted
+        if (off * off > 1e-8) exit 1 } END { exit !found }' s.csv || fail "$what: column $2 of row $1 is not $3"
+}
+near -100 2 2
+near -100 3 30
+near 50 2 0.5
+run 0 spectrum iq.csv --imaginary 3 --power -o s.csv
+near -100 2 4
+run 0 spectrum iq.csv --column i_V --amplitude peak --phase --unwrap -o s.csv
+near 100 2 2
+[ "$(wc -l <s.csv)" -eq 201 ] || fail "$what: the number of rows"
+[ "$(head -n 1 s.csv)" = "frequency_Hz,amplitude_peak_V,phase_deg" ] || fail "$what: the names of the columns"
+run 1 spectrum iq.csv --imaginary q_V --amplitude peak -o x.csv
+run 1 spectrum iq.csv --unwrap -o x.csv
+run 1 spectrum iq.csv --imaginary t_s -o x.csv
+complains "the real part is 'i (V)', the imaginary part 't (s)'"
+run 2 spectrum iq.csv --imaginary none -o x.csv
+only_left "iq.csv s.csv s.svg"
+
+# The beats of an electrocardiogram, counted by NumPy: 74 samples above 0.5 mV whose neighbours are lower; 73.87 per
+# minute from the first to the last.
+run 0 peaks "$ecg" --rate 360 --threshold 0.5 -o p.csv --plot p.svg
+says "21600 samples of mlii (mV) at 360 Hz: 74 peaks by 3 samples a fit, from 0.5 mV"
+grep -qE '^rate: +73\.8[67][0-9]* per minute' ../stdout || fail "$what: the rate"
+[ "$(head -n 1 p.csv)" = "time_s,sample,amplitude_mV,second_derivative_mV/s^2" ] || fail "$what: the columns"
+[ "$(wc -l <p.csv)" -eq 75 ] || fail "$what: the number of rows"
+[ "$(grep -c '<circle' p.svg)" -eq 74 ] || fail "$what: the marks"
+run 0 detrend "$ecg" --rate 360 --order 3 --breakpoints 10,20,30,40,50 -o d.csv
+for width in 5 7; do
+    run 0 peaks d.csv --column detrended_mV --threshold 0.5 --width $width -o p.csv
+    says "74 peaks by $width samples a fit"
+done
+# A parabola with its bottom at 4.25 s, by hand, in the middle of a span.
+awk 'BEGIN { print "t_s,x_V"; for (i = 0; i < 20; ++i) print i / 2 "," (i / 2 - 4.25) ^ 2 - 3 }' >bend.csv
+run 0 peaks bend.csv --valleys --threshold 0 --from 2 --to 7 -o p.csv
+says "10 samples of x (V) at 2 Hz: 1 valley by 3 samples a fit, up to 0 V"
+[ "$(tail -n 1 p.csv)" = "4.25,8.5,-3,2" ] || fail "$what: the valley is $(tail -n 1 p.csv)"
+run 0 peaks bend.csv --valleys --threshold -4 -o p.csv --plot p.svg
+says "0 valleys"
+[ "$(wc -l <p.csv)" -eq 1 ] || fail "$what: the number of rows"
+run 1 peaks bend.csv --width 2 -o x.csv
+run 1 peaks bend.csv --threshold x -o x.csv
+run 1 peaks bend.csv
+only_left "bend.csv d.csv p.csv p.svg"
+
+# By NumPy: mean, std, percentile.
+run 0 stats "$ecg" --rate 360 -o st.csv
+says "mean:               -0.336348 mV"
+says "rms:                0.379435 mV"
+says "standard deviation: 0.175616 mV"
+says "minimum:            -0.695 mV"
+says "minimum time:       36.8139 s"
+says "maximum time:       20.5361 s"
+says "median:             -0.36 mV"
+says "percentile 5:       -0.485 mV"
+says "percentile 95:      -0.2 mV"
+grep -q '^samples,mean_mV,rms_mV,standard_deviation_mV,minimum_mV,minimum_time_s,' st.csv || fail "$what: the columns"
+grep -q '^21600,-0.3363479166666' st.csv || fail "$what: the row"
+run 0 stats "$ecg" --rate 360 --percentiles 99.9
+says "percentile 99.9:    0.97 mV"
+run 1 stats "$ecg" --rate 360 --percentiles 101
+complains "there are no 101 percent"
+run 1 stats "$ecg"
+run 5 stats "$ecg" --rate 360 -o none/s.csv
+only_left "st.csv"
+
 # Every response, on a WAV file.
 for response in lowpass highpass; do
     run 0 filter "$bell" --response $response --order 2 --cutoff 3000 -o $response.csv
@@ -130,6 +211,82 @@ done
 run 0 spectrum "$bell" -o bell.csv
 says "132300 samples of channel 1 (FS) at 44100 Hz"
 only_left "bandpass.csv bandstop.csv bell.csv highpass.csv lowpass.csv"
+
+# Every family in every response, and what each takes. The backend's answer is that of the library's header.
+families=butterworth,bessel,chebyshev,inverse-chebyshev,elliptic,windowed,kaiser,equiripple
+values="--order 5 --ripple 0.5 --attenuation 50 --taps 51 --window dolph-chebyshev --param 70 --beta 5"
+for response in "lowpass --cutoff 300 --edges 300 500" "highpass --cutoff 300 --edges 300 500" \
+    "bandpass --cutoff 300 900 --edges 300 500 900 1100" "bandstop --cutoff 300 900 --edges 300 500 900 1100"; do
+    run 0 filter "$bell" --family $families $values --response $response -o f.csv
+    run 0 response --rate 5000 --family $families $values --response $response -o r.csv
+    [ ! -s ../stderr ] || fail "$what: a warning"
+done
+run 1 $filter_x --family elliptic --order 4 --ripple 1 --response lowpass --cutoff 300 -o g.csv
+complains "elliptic needs --attenuation"
+run 1 $filter_x --ripple 1 --order 4 --response lowpass --cutoff 300 -o g.csv
+complains "--ripple is not for butterworth"
+complains "it is for chebyshev, elliptic"
+run 1 $filter_x --family windowed --taps 5 --window square --response lowpass --cutoff 300 -o g.csv
+run 4 $filter_x --family chebyshev --order 4 --ripple -1 --response lowpass --cutoff 300 -o g.csv
+complains "status -20024"
+run 4 $filter_x --family windowed --taps 50 --window welch --response highpass --cutoff 300 -o g.csv
+complains "status -20033"
+run 4 response --rate 5000 --family kaiser --taps 0 --beta 1 --response lowpass --cutoff 300 -o g.csv
+complains "status -20003"
+run 4 response --rate 5000 --order 0 --response lowpass --cutoff 300 -o g.csv
+complains "status -20021"
+only_left "f.csv r.csv"
+
+# Several families at once, a part of the plot, and no phase: the line at 100 Hz lies where it was.
+run 0 $filter_x --family butterworth,elliptic,kaiser --order 4 --ripple 1 --attenuation 60 --taps 101 --beta 5 \
+    --response lowpass --cutoff 250 --view 5 5.05 -o f.csv --plot f.svg
+says "  lowpass 250 Hz, elliptic of order 4, ripple 1 dB, attenuation 60 dB"
+says "delay of kaiser: 50 samples, 0.01 s"
+[ "$(head -n 1 f.csv)" = "time_s,input_g,butterworth_g,elliptic_g,kaiser_g" ] || fail "$what: the names of the columns"
+grep -qF '>filtered (g)<' f.svg || fail "$what: the axes"
+run 0 $filter_x --response bandpass --order 2 --cutoff 90 110 --zero-phase -o z.csv
+# From 3 to 7 s the two differ by less than 0.7 g, most of it the offset: a delay of one sample would make 1.3 g.
+awk -F, 'NR > 15001 && NR < 35001 { d = $3 - $2; if (d * d > 0.49) ++far } END { exit far > 0 }' z.csv ||
+    fail "$what: the filtered signal is not where the input is"
+run 1 $filter_x --family kaiser --taps 101 --beta 5 --response lowpass --cutoff 250 --zero-phase -o g.csv
+complains "--zero-phase is not for kaiser"
+only_left "f.csv f.svg z.csv"
+
+# The response of a design. Bessel of order 4: 7.58 dB at the cut-off, as the header has it.
+run 0 response --rate 1000 --order 4 --response bandpass --cutoff 100 200 -o r.csv --plot r.svg
+says "bandpass 100 to 200 Hz, butterworth of order 4 at 1000 Hz: 2 sections"
+says "gain at 200 Hz: -3.0103 dB"
+says "-3.01 dB at: 100 Hz, 200 Hz"
+says "greatest pole radius: 0.9"
+[ "$(head -n 1 r.csv)" = "frequency_Hz,magnitude_dB,phase_deg,group_delay_samples" ] ||
+    fail "$what: the names of the columns"
+[ "$(wc -l <r.csv)" -eq 2002 ] || fail "$what: the number of rows"
+grep -qE '^100,-3\.0102999[0-9]*,' r.csv || fail "$what: the row of 100 Hz"
+grep -qF '>group delay (samples)<' r.svg || fail "$what: the axes"
+run 0 response --rate 1000 --family bessel --order 4 --response lowpass --cutoff 100 -o r.csv
+says "gain at 100 Hz: -7.57"
+run 0 response --rate 1000 --family elliptic,chebyshev --order 4 --ripple 1 --attenuation 60 --response lowpass \
+    --cutoff 100 --from 50 --to 150 --points 11 --delay ms -o r.csv
+says "pass-band ripple: 1 dB, from -1 dB to 0 dB, 0 to 100 Hz"
+says "stop-band attenuation: 60 dB, "
+head -n 1 r.csv | grep -q '^frequency_Hz,elliptic_magnitude_dB,.*,elliptic_group_delay_ms,chebyshev_magnitude_dB,' ||
+    fail "$what: the names of the columns"
+[ "$(cut -d, -f1 r.csv | tr '\n' ' ')" = "frequency_Hz 50 60 70 80 90 100 110 120 130 140 150 " ] ||
+    fail "$what: the frequencies"
+# Direct coefficients cannot hold a narrow band of high order; the sections do.
+run 0 response --rate 5000 --order 8 --response bandpass --cutoff 90 110 -o r.csv
+[ ! -s ../stderr ] || fail "$what: a warning"
+run 0 response --rate 5000 --order 8 --response bandpass --cutoff 90 110 --form direct -o r.csv
+says "direct form of degree 16"
+complains "warning: butterworth of order 8: "
+run 1 response --rate 5000 --order 8 --response lowpass --cutoff 90 --from 100 --to 90 -o g.csv
+complains "half the rate is 2500 Hz"
+run 1 response --order 8 --response lowpass --cutoff 90 -o g.csv
+complains "--rate"
+run 1 response --rate 5000 --order 8 --response lowpass --cutoff 90 -o g.csv --plot g.csv
+complains "different files"
+run 5 response --rate 5000 --order 8 --response lowpass --cutoff 90 -o none/g.csv
+only_left "r.csv r.svg"
 
 # Velocity and displacement of the same sine: 10.13 g of 9.78 m/s2 are 157.7 mm/s and 0.251 mm at 100 Hz. The
 # trapezoidal rule takes 0.13 % and 0.26 % of these.
@@ -321,10 +478,10 @@ only_left "$name out_$name"
 run 1
 complains "--help"
 complains "a command is missing"
-complains "the commands are filter, spectrum, detrend, vibration, thermocouple, wav, info"
+complains "the commands are filter, response, spectrum, peaks, stats, detrend, vibration, thermocouple, wav, info"
 run 1 nonsense
 complains "there is no command 'nonsense'"
-complains "the commands are filter, spectrum, detrend, vibration, thermocouple, wav, info"
+complains "the commands are filter, response, spectrum, peaks, stats, detrend, vibration, thermocouple, wav, info"
 run 0 --help
 says "[OPTIONS] COMMAND"
 run 1 filter "$shaker" --rate 5000 -o f.csv

@@ -113,7 +113,7 @@ TEST_F(Input, RefusesAFileWithNamesAlone)
 
 TEST_F(Input, ReadsTheChannelsOfAWavFile)
 {
-    const Series series = readSeries({QUORDSP_TEST_DATA "/cli/audio_bell_44k1.wav", "1"});
+    const Series series = readSeries({QUORDSP_TEST_DATA "/../../examples/data/audio_bell_44k1.wav", "1"});
     EXPECT_EQ(series.rate, 44100);
     EXPECT_EQ(series.label.axis(), "channel 1 (FS)");
     EXPECT_EQ(series.samples.size(), 132300u);
@@ -121,7 +121,7 @@ TEST_F(Input, ReadsTheChannelsOfAWavFile)
 
 TEST_F(Input, RefusesARateForAWavFileAndAChannelThatIsNotThere)
 {
-    const std::filesystem::path bell = QUORDSP_TEST_DATA "/cli/audio_bell_44k1.wav";
+    const std::filesystem::path bell = QUORDSP_TEST_DATA "/../../examples/data/audio_bell_44k1.wav";
     EXPECT_EQ(failureOf([&] { readSeries({bell, "", 1}); }).code(), ExitCode::Usage);
     EXPECT_EQ(failureOf([&] { readSeries({bell, "2"}); }).code(), ExitCode::Input);
 }

@@ -76,6 +76,24 @@ TEST(Plot, HasALegendForOneCurveToo)
     EXPECT_THAT(drawPlot(plot), HasSubstr(">input<"));
 }
 
+TEST(Plot, MarksPointsAndMakesRoomForThem)
+{
+    const std::vector<double> samples{3, 4};
+    Plot plot = twoCurves(samples, samples);
+    plot.panels[0].marks = {{0, 3}, {1, 40}};
+    const std::string svg = drawPlot(plot);
+    EXPECT_EQ(countOf(svg, "<circle"), 2u);
+    EXPECT_THAT(svg, HasSubstr(">40<"));
+}
+
+TEST(Plot, DrawsOneOfManyMarksAtOnePlace)
+{
+    const std::vector<double> samples{3, 4};
+    Plot plot = twoCurves(samples, samples);
+    plot.panels[0].marks.assign(1000, {0.5, 3.5});
+    EXPECT_EQ(countOf(drawPlot(plot), "<circle"), 1u);
+}
+
 TEST(Plot, ShortensTextsToTheirSpace)
 {
     const std::vector<double> samples{3, 4};
@@ -111,6 +129,18 @@ TEST(Shortened, CutsBetweenCharacters)
     // As broad as two letters each.
     EXPECT_EQ(shortened("\xE4\xB8\xAD\xE4\xB8\xAD\xE4\xB8\xAD\xE4\xB8\xAD", 7), "\xE4\xB8\xAD...\xE4\xB8\xAD");
     EXPECT_EQ(shortened("\xE4\xB8\xAD\xE4\xB8\xAD\xE4\xB8\xAD", 5), "...");
+}
+
+TEST(Plot, GivesComparedCurvesColoursOfTheirOwn)
+{
+    const std::vector<double> samples{0, 1};
+    Plot plot = twoCurves(samples, samples);
+    EXPECT_THAT(drawPlot(plot), HasSubstr("#b3bfca"));
+    plot.panels[0].compared = true;
+    const std::string svg = drawPlot(plot);
+    EXPECT_THAT(svg, Not(HasSubstr("#b3bfca")));
+    for (const char* const stroke : {"stroke=\"#1a5fa8\"", "stroke=\"#d1650f\""})
+        EXPECT_EQ(countOf(svg, stroke), 2) << stroke; // the curve and its line in the legend
 }
 
 TEST(Plot, RefersToNothingOutsideItself)

@@ -139,6 +139,14 @@ TEST(StrongestLine, IsNoneAtTheLevelOfRounding)
     EXPECT_FALSE(findStrongestLine(samples, 100, levels, 1e-12));
 }
 
+TEST(HighestBin, IsTheFirstOfEqualsAboveTheFloorAndNotTheOneOfZero)
+{
+    const std::vector<double> levels{1, 4, 9, 4};
+    EXPECT_EQ(highestBin(levels, 2, 0), 1u);
+    EXPECT_EQ(highestBin(levels, 0, 0), 2u);
+    EXPECT_EQ(highestBin(levels, 2, 4), std::nullopt);
+}
+
 TEST(AmplitudeAt, IsThatOfTheSineAtTheFrequencyBesideOthers)
 {
     std::vector<double> samples(1000);

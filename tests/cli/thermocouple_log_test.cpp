@@ -130,7 +130,7 @@ TEST_F(Log, RefusesAFileWithoutRowsAndAWavFile)
 {
     EXPECT_THAT(messageOf([&] { read("emf_mV\n"); }), HasSubstr("no row of numbers"));
     LogChoice choice{.input = {}, .coldJunction = 0};
-    choice.input.path = QUORDSP_TEST_DATA "/cli/audio_bell_44k1.wav";
+    choice.input.path = QUORDSP_TEST_DATA "/../../examples/data/audio_bell_44k1.wav";
     EXPECT_THAT(messageOf([&] { readThermocoupleLog(choice); }), HasSubstr("a WAV file holds no voltages"));
 }
 

@@ -198,7 +198,7 @@ TEST(Wav, RejectsAFloatSampleThatIsNotFinite)
 // Count, peak and RMS as the description of the recording states them.
 TEST(Wav, ReadsARecordingOfABell)
 {
-    const WavDocument document(readFile(QUORDSP_TEST_DATA "/cli/audio_bell_44k1.wav"), "bell");
+    const WavDocument document(readFile(QUORDSP_TEST_DATA "/../../examples/data/audio_bell_44k1.wav"), "bell");
     EXPECT_EQ(document.rate(), 44100);
     EXPECT_EQ(document.channels(), 1u);
     const std::vector<double> bell = document.channel(0);

@@ -1,0 +1,245 @@
+#include "response_figures.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <functional>
+#include <limits>
+#include <numbers>
+#include <numeric>
+#include <span>
+
+#include "number.h"
+#include "progress.h"
+
+namespace quordsp::cli {
+namespace {
+
+const double kHalfPower = -10 * std::log10(2.0); // dB
+constexpr std::size_t kFewestPoints = 4000;      // of a segment
+constexpr std::size_t kPointsPerTap = 8;
+constexpr int kHalvings = 100;
+constexpr double kGoldenShare = 1 / std::numbers::phi;
+constexpr double kRippleTolerance = 0.01;      // of the ripple
+constexpr double kAttenuationTolerance = 0.01; // dB
+constexpr double kRadiusTolerance = 1e-3;      // of a pole's distance from the circle
+
+enum class Role : std::uint8_t { Pass, Transition, Stop };
+
+// What lies between two neighbours of 0, the frequencies of the request, and half the sampling rate. The points crowd
+// at both ends, as the extrema do. Frequencies are shares of the sampling rate.
+struct Segment {
+    Role role;
+    std::vector<double> frequencies;
+    std::vector<double> gains; // dB
+};
+
+using Gain = std::function<double(double frequency)>;
+
+// Pass and stop band alternate, with a transition between them when the request has the ends of both.
+Role roleOf(const ChosenFilter& filter, std::size_t segment)
+{
+    const bool passesFirst = filter.request.type == 0 || filter.request.type == 3;
+    if ((filter.family.takes & kEdges) == 0)
+        return passesFirst == (segment % 2 == 0) ? Role::Pass : Role::Stop;
+    if (segment % 2 == 1)
+        return Role::Transition;
+    return passesFirst == (segment % 4 == 0) ? Role::Pass : Role::Stop;
+}
+
+Segment sample(Role role, double from, double to, std::size_t points, const Gain& gain)
+{
+    Segment segment{role, {}, {}};
+    for (std::size_t i = 0; i <= points; ++i) {
+        const double share =
+            (1 - std::cos(std::numbers::pi * static_cast<double>(i) / static_cast<double>(points))) / 2;
+        segment.frequencies.push_back(i < points ? from + (to - from) * share : to);
+        segment.gains.push_back(gain(segment.frequencies.back()));
+    }
+    return segment;
+}
+
+// The lobes of a FIR filter are equally broad, so that the points in the middle must be near enough as well.
+std::size_t pointsFor(const TransferFunction& function)
+{
+    if (function.form != Form::Taps)
+        return kFewestPoints;
+    return std::max(kFewestPoints, kPointsPerTap * function.sections.front().forward.size());
+}
+
+std::vector<Segment> survey(const ChosenFilter& filter, double rate, std::size_t points, const Gain& gain)
+{
+    std::vector<Segment> segments;
+    double from = 0;
+    const auto edges = static_cast<std::size_t>(edgeCount(filter.family, filter.request.type));
+    for (std::size_t i = 0; i <= edges; ++i) {
+        const double to = i < edges ? filter.request.edges[i] / rate : 0.5;
+        segments.push_back(sample(roleOf(filter, i), from, to, points, gain));
+        from = to;
+    }
+    return segments;
+}
+
+// Where the gain goes through a level, between two frequencies on either side of it.
+double crossing(double from, double to, double level, const Gain& gain)
+{
+    const bool isAbove = gain(from) >= level;
+    for (int i = 0; i < kHalvings; ++i) {
+        const double middle = std::midpoint(from, to);
+        ((gain(middle) >= level) == isAbove ? from : to) = middle;
+    }
+    return std::midpoint(from, to);
+}
+
+std::vector<double> halfPowerPoints(const std::vector<Segment>& segments, double rate, const Gain& gain)
+{
+    std::vector<double> points;
+    for (const auto& [role, x, gains] : segments)
+        for (std::size_t i = 1; i < x.size(); ++i)
+            if ((gains[i - 1] >= kHalfPower) != (gains[i] >= kHalfPower))
+                points.push_back(rate * crossing(x[i - 1], x[i], kHalfPower, gain));
+    return points;
+}
+
+// The greatest value of the function between two frequencies that has one maximum there.
+double peak(double from, double to, const Gain& function)
+{
+    double best = std::max(function(from), function(to));
+    for (int i = 0; i < kHalvings / 2; ++i) {
+        const double left = to - (to - from) * kGoldenShare;
+        const double right = from + (to - from) * kGoldenShare;
+        const double atLeft = function(left);
+        const double atRight = function(right);
+        best = std::max({best, atLeft, atRight});
+        (atLeft < atRight ? from : to) = atLeft < atRight ? left : right;
+    }
+    return best;
+}
+
+// The greatest value of sign * gain among points first to last of a segment, and between them.
+double greatest(const Segment& segment, std::size_t first, std::size_t last, double sign, const Gain& gain)
+{
+    std::size_t best = first;
+    for (std::size_t i = first; i <= last; ++i)
+        if (sign * segment.gains[i] > sign * segment.gains[best])
+            best = i;
+    const double from = segment.frequencies[std::max(best, first + 1) - 1];
+    const double to = segment.frequencies[std::min(best + 1, last)];
+    const double between = peak(from, to, [&](double frequency) { return sign * gain(frequency); });
+    return std::max(between, sign * segment.gains[best]);
+}
+
+// Whether a walk into the band, from the point to the next one, has not come to where the band begins.
+bool isBefore(BandEnd end, const Segment& segment, double reached, std::size_t point, std::size_t next)
+{
+    const double rise = segment.gains[next] - segment.gains[point];
+    if (end == BandEnd::Lobe)
+        return segment.role == Role::Pass ? rise > 0 : rise < 0;
+    return end == BandEnd::Reached && segment.gains[point] > reached;
+}
+
+struct Part {
+    std::size_t first;
+    std::size_t last;
+};
+
+// The points of a segment that belong to its band. Ends at 0 and at half the sampling rate are no ends of a band.
+Part bandWithin(const Segment& segment, BandEnd end, double reached)
+{
+    Part part{0, segment.gains.size() - 1};
+    if (segment.frequencies.front() > 0)
+        while (part.first < part.last && isBefore(end, segment, reached, part.first, part.first + 1))
+            ++part.first;
+    if (segment.frequencies.back() < 0.5)
+        while (part.last > part.first && isBefore(end, segment, reached, part.last, part.last - 1))
+            --part.last;
+    return part;
+}
+
+std::optional<BandFigures> measureBands(const std::vector<Segment>& segments, Role role, BandEnd end, double reached,
+                                        double rate, const Gain& gain)
+{
+    if (end == BandEnd::None)
+        return std::nullopt;
+    constexpr double kInfinity = std::numeric_limits<double>::infinity();
+    BandFigures figures{{}, kInfinity, -kInfinity};
+    for (const Segment& segment : segments)
+        if (segment.role == role) {
+            const auto [first, last] = bandWithin(segment, end, reached);
+            figures.bands.push_back({rate * segment.frequencies[first], rate * segment.frequencies[last]});
+            figures.highest = std::max(figures.highest, greatest(segment, first, last, 1, gain));
+            figures.lowest = std::min(figures.lowest, -greatest(segment, first, last, -1, gain));
+        }
+    return figures;
+}
+
+std::string decibels(double value)
+{
+    return rounded(value) + " dB";
+}
+
+void doubtPoles(const Poles& poles, std::vector<std::string>& doubts)
+{
+    if (poles.greatestRadius >= 1)
+        doubts.push_back("the filter is not stable: a pole has the radius " + rounded(poles.greatestRadius, 17));
+    else if (poles.shift > kRadiusTolerance)
+        doubts.push_back("a pole at " + rounded(1 - poles.greatestRadius, 2) +
+                         " from the unit circle is too near for double: the rounding of the coefficients moves a pole"
+                         " by up to " +
+                         rounded(100 * poles.shift, 2) + " % of its distance from the circle");
+}
+
+void doubtEdges(const ChosenFilter& filter, const ResponseFigures& figures, std::vector<std::string>& doubts)
+{
+    if (!filter.family.cutoffLoss)
+        return;
+    const double wanted = filter.family.cutoffLoss(filter.request);
+    const double tolerance = std::min(kRippleTolerance * wanted, kAttenuationTolerance);
+    for (std::size_t i = 0; i < figures.edgeGains.size(); ++i)
+        if (!(std::abs(figures.edgeGains[i] + wanted) <= tolerance))
+            doubts.push_back("the gain at " + rounded(filter.request.edges[i]) + " Hz is " +
+                             decibels(figures.edgeGains[i]) + " instead of " + decibels(-wanted));
+}
+
+void doubtBands(const ChosenFilter& filter, const ResponseFigures& figures, std::vector<std::string>& doubts)
+{
+    const auto& [family, request, band, design] = filter;
+    if (figures.pass && (family.takes & kRipple) != 0 &&
+        !(figures.pass->highest - figures.pass->lowest <= request.ripple * (1 + kRippleTolerance)))
+        doubts.push_back("the ripple of the pass band is " + decibels(figures.pass->highest - figures.pass->lowest) +
+                         " instead of " + decibels(request.ripple));
+    if (figures.stop && (family.takes & kAttenuation) != 0 &&
+        !(-figures.stop->highest >= request.attenuation - kAttenuationTolerance))
+        doubts.push_back("the attenuation of the stop band is " + decibels(-figures.stop->highest) + " instead of " +
+                         decibels(request.attenuation));
+}
+
+} // namespace
+
+ResponseFigures measureResponse(const ChosenFilter& filter, double rate, const TransferFunction& function,
+                                const FrequencyResponse& response)
+{
+    const Progress progress("measuring the response");
+    const Gain gain = [&](double frequency) { return response.decibels(frequency); };
+    const std::vector<Segment> segments = survey(filter, rate, pointsFor(function), gain);
+    ResponseFigures figures;
+    for (std::size_t i = 0; i + 1 < segments.size(); ++i)
+        figures.edgeGains.push_back(segments[i].gains.back());
+    figures.halfPower = halfPowerPoints(segments, rate, gain);
+    const double reached = -filter.request.attenuation;
+    figures.pass = measureBands(segments, Role::Pass, filter.family.passEnd, reached, rate, gain);
+    figures.stop = measureBands(segments, Role::Stop, filter.family.stopEnd, reached, rate, gain);
+    figures.poles = polesOf(function.sections);
+    return figures;
+}
+
+std::vector<std::string> doubtsAbout(const ChosenFilter& filter, const ResponseFigures& figures)
+{
+    std::vector<std::string> doubts;
+    doubtPoles(figures.poles, doubts);
+    doubtEdges(filter, figures, doubts);
+    doubtBands(filter, figures, doubts);
+    return doubts;
+}
+
+} // namespace quordsp::cli

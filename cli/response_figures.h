@@ -1,0 +1,37 @@
+// What a frequency response comes to in numbers: gains, bands, ripple, attenuation, and what of the request they miss.
+#pragma once
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "filter_choice.h"
+#include "frequency_response.h"
+
+namespace quordsp::cli {
+
+struct Band {
+    double from; // Hz
+    double to;
+};
+
+struct BandFigures {
+    std::vector<Band> bands;
+    double lowest;  // gain in them, dB
+    double highest; // likewise
+};
+
+struct ResponseFigures {
+    std::vector<double> edgeGains; // dB, at each frequency of the request
+    std::vector<double> halfPower; // Hz, where the gain goes through -3.01 dB
+    std::optional<BandFigures> pass;
+    std::optional<BandFigures> stop;
+    Poles poles;
+};
+
+ResponseFigures measureResponse(const ChosenFilter& filter, double rate, const TransferFunction& function,
+                                const FrequencyResponse& response);
+
+// In sentences, each about something that is not as the request has it, or is not to be relied on.
+std::vector<std::string> doubtsAbout(const ChosenFilter& filter, const ResponseFigures& figures);
+
+} // namespace quordsp::cli

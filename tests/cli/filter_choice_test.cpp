@@ -1,0 +1,133 @@
+#include "filter_choice.h"
+
+#include <cmath>
+#include <string>
+
+#include <gmock/gmock.h>
+
+#include "failure_of.h"
+
+namespace quordsp::cli {
+namespace {
+
+using testing::HasSubstr;
+
+FilterChoice choiceOf(const std::string& family)
+{
+    return {.families = {family}, .response = "lowpass", .cutoff = {100}};
+}
+
+std::string complaint(const FilterChoice& choice)
+{
+    return messageOf([&] { chosenFilters(choice); });
+}
+
+TEST(FilterChoice, NamesWhatAFamilyLacks)
+{
+    FilterChoice choice = choiceOf("elliptic");
+    EXPECT_EQ(complaint(choice), "elliptic needs --order");
+    choice.order = 4;
+    EXPECT_EQ(complaint(choice), "elliptic needs --ripple");
+    choice.ripple = 1;
+    EXPECT_EQ(complaint(choice), "elliptic needs --attenuation");
+    choice.attenuation = 60;
+    EXPECT_EQ(chosenFilters(choice).size(), 1);
+    choice.cutoff.clear();
+    EXPECT_EQ(complaint(choice), "elliptic needs --cutoff");
+    EXPECT_EQ(complaint(choiceOf("windowed")), "windowed needs --taps");
+    EXPECT_EQ(complaint({.families = {"equiripple"}, .response = "lowpass", .taps = 5}), "equiripple needs --edges");
+}
+
+TEST(FilterChoice, NamesWhatAFamilyDoesNotTake)
+{
+    FilterChoice choice = choiceOf("butterworth");
+    choice.order = 4;
+    choice.ripple = 1;
+    EXPECT_EQ(complaint(choice), "--ripple is not for butterworth");
+    EXPECT_EQ(failureOf([&] { chosenFilters(choice); }).advice(), "it is for chebyshev, elliptic");
+    choice.ripple.reset();
+    choice.taps = 5;
+    EXPECT_EQ(complaint(choice), "--taps is not for butterworth");
+    choice.taps.reset();
+    choice.edges = {1, 2};
+    EXPECT_EQ(complaint(choice), "--edges is not for butterworth");
+    choice.edges.clear();
+    choice.beta = 2;
+    EXPECT_EQ(complaint(choice), "--beta is not for butterworth");
+}
+
+TEST(FilterChoice, OfSeveralFamiliesMayHaveWhatOneOfThemTakes)
+{
+    FilterChoice choice = choiceOf("butterworth");
+    choice.families = {"butterworth", "chebyshev"};
+    choice.order = 4;
+    EXPECT_EQ(complaint(choice), "chebyshev needs --ripple");
+    choice.ripple = 1;
+    const auto filters = chosenFilters(choice);
+    ASSERT_EQ(filters.size(), 2);
+    EXPECT_EQ(filters[0].design, "butterworth of order 4");
+    EXPECT_EQ(filters[1].design, "chebyshev of order 4, ripple 1 dB");
+    choice.attenuation = 60;
+    EXPECT_EQ(complaint(choice), "--attenuation is not for butterworth, chebyshev");
+    choice.families = {"bessel", "bessel"};
+    EXPECT_EQ(complaint(choice), "--family names a design twice");
+}
+
+TEST(FilterChoice, WantsAsManyFrequenciesAsTheResponseHas)
+{
+    FilterChoice choice = choiceOf("bessel");
+    choice.order = 2;
+    choice.response = "bandpass";
+    EXPECT_EQ(complaint(choice), "bandpass takes 2 --cutoff frequencies, not 1");
+    choice = {.families = {"equiripple"}, .response = "bandstop", .taps = 31, .edges = {1, 2, 3}};
+    EXPECT_EQ(complaint(choice), "bandstop takes 4 --edges frequencies, not 3");
+    choice.response = "highpass";
+    choice.edges = {1, 2};
+    EXPECT_EQ(chosenFilters(choice)[0].describe(), "highpass 1/2 Hz, equiripple with 31 taps");
+}
+
+TEST(FilterChoice, TakesAParameterForWindowsThatHaveOne)
+{
+    FilterChoice choice = choiceOf("windowed");
+    choice.taps = 11;
+    choice.window = "gaussian";
+    EXPECT_TRUE(std::isnan(chosenFilters(choice)[0].request.parameter)); // the default
+    choice.parameter = 0.25;
+    EXPECT_EQ(chosenFilters(choice)[0].request.parameter, 0.25);
+    EXPECT_EQ(chosenFilters(choice)[0].request.window, 62);
+    choice.window = "hamming";
+    EXPECT_EQ(complaint(choice), "--param is not for hamming");
+    choice = choiceOf("butterworth");
+    choice.order = 1;
+    choice.parameter = 1;
+    EXPECT_THAT(complaint(choice), HasSubstr("--param is not for a filter without a --window"));
+}
+
+TEST(FilterChoice, DescribesTheBand)
+{
+    FilterChoice choice{.families = {"butterworth", "equiripple"},
+                        .response = "bandpass",
+                        .order = 4,
+                        .taps = 31,
+                        .cutoff = {90, 110},
+                        .edges = {80, 90, 110, 120}};
+    const auto filters = chosenFilters(choice);
+    EXPECT_EQ(filters[0].describe(), "bandpass 90 to 110 Hz, butterworth of order 4");
+    EXPECT_EQ(filters[1].describe(), "bandpass 80/90 to 110/120 Hz, equiripple with 31 taps");
+    EXPECT_EQ(describeBand(filters), "bandpass");
+    EXPECT_EQ(describeBand({filters[0]}), "bandpass 90 to 110 Hz");
+}
+
+TEST(FilterDesigns, HaveEachWindowOfTheTableOnce)
+{
+    int codes = 0;
+    for (const FilterWindow& window : filterWindows()) {
+        EXPECT_EQ(&filterWindow(window.name), &window);
+        codes += window.code;
+    }
+    EXPECT_EQ(filterWindows().size(), 19);
+    EXPECT_EQ(codes, 45 + 11 + 160 + 183 + 0); // 0 to 9, 11, 30 to 34, 60 to 62
+}
+
+} // namespace
+} // namespace quordsp::cli
