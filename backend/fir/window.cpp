@@ -53,9 +53,11 @@ Real bartlettHanning(const Place& place)
     return 0.62L - 0.24L * place.v + 0.38L * std::cos(kPi * place.v);
 }
 
+// Taken from the end, so that it is 0 there whatever the run-time's pi.
 Real bohman(const Place& place)
 {
-    return (1 - place.v) * std::cos(kPi * place.v) + std::sin(kPi * place.v) / kPi;
+    const Real rest = 1 - place.v;
+    return std::sin(kPi * rest) / kPi - rest * std::cos(kPi * rest);
 }
 
 Real parzen(const Place& place)
