@@ -179,10 +179,11 @@
  *       copy of the input (after -5093, -5094 and the statuses of the default backend);
  *     - by all others that have outRe and outIm, with unspecified values.
  * For n = 0 and n < 0 nothing is read or written; the backend is given the count (for n < 0 with null blocks) and
- * its status is returned. Scratch memory is one block of 16 bytes a sample for the one-call IIR filters but
- * QuorDSP_CxCh_BSF, for QuorDSP_FFTEx, QuorDSP_InvFFTEx and QuorDSP_CxSpectrum; two blocks for the others, and another
- * for each state; one that the backend uses beyond n samples, for states or bins, is longer. When such memory cannot
- * be had, -5093 is returned without a backend call and the outputs are untouched.
+ * its status is returned; where n = 0 still needs memory, for states or bins, and there is none, that is -5093. Scratch
+ * memory is one block of 16 bytes a sample for the one-call IIR filters but QuorDSP_CxCh_BSF, for QuorDSP_FFTEx,
+ * QuorDSP_InvFFTEx and QuorDSP_CxSpectrum; two blocks for the others, and another for each state; one that the backend
+ * uses beyond n samples, for states or bins, is longer. When such memory cannot be had, -5093 is returned without a
+ * backend call and the outputs are untouched.
  *
  *
  * SOURCES
@@ -851,12 +852,13 @@ QUORDSP_API AnalysisLibErrType QuorDSP_IIRCascadeFiltering(const double* in, int
 
 /**
  * Like QuorDSP_IIRCascadeFiltering, but for a complex signal, and with a state of its own instead of the record's,
- * which is neither read nor written. No final state is given back.
+ * which is neither read nor written; nor is its reset flag. No final state is given back.
  * @param inRe       [n]  real parts; only read; may be the same array as outRe or outIm
  * @param inIm       [n]  imaginary parts, likewise
  * @param n               number of samples; for n < 1 no array is touched
  * @param filter          record with a design
- * @param stateCount      number of state values; any other value than reverseCount of the record means zero state
+ * @param stateCount      number of state values; any other value than reverseCount of the record means zero state.
+ *                        Scratch memory of 16 bytes each is needed, -5093 when it cannot be had
  * @param stateRe    [n]  real parts of the initial state, laid out like state in the record; n elements are read, the
  *                        first stateCount are used; where n is smaller the rest counts as 0
  * @param stateIm    [n]  imaginary parts of the initial state, likewise

@@ -217,7 +217,7 @@ NIANLYS_API Status AALFunc62(std::int32_t type, std::int32_t order, double fs, d
                              std::int32_t nb) noexcept; // Elp_Coef
 
 // IIR cascade coefficients into a filter of AllocIIRFilterPtr, whose type and order they follow; arms its reset flag.
-// The sections of 4th order of a band filter are sensitive to rounding: the response of a Butterworth filter is within
+// The sections of 4th order of a band filter are sensitive to rounding: the pass band of a Butterworth filter is within
 // 1e-9 dB of the ideal one for band edges about fs/4, 1e-5 dB at 1e-3 fs, 1e-2 dB at 1e-4 fs, that of sharper families
 // less (docs/accuracy.md); below about 1e-4 fs the design may fail. The one-call filters run on sections of 2nd order
 // and keep within 1e-8 dB there. Limits of order and gain as above.
@@ -232,11 +232,12 @@ NIANLYS_API Status AALFunc61(double fs, double fl, double fh, double ripple, dou
                              IirFilter* filter) noexcept; // Elp_CascadeCoef
 
 // IIR filtering, in place allowed. The cascade keeps its state in the filter (the complex one in state, laid out alike:
-// zeros are used and nothing is kept when state is null or of another count), the direct form in the last na - 1
-// outputs ya and nb - 1 inputs xb, newest last; null ya or xb mean zeros. The results have the same bits however a
-// signal is cut into blocks; subnormal numbers count as 0. ZeroPhaseFiltering runs forwards, then backwards, from zeros
-// each time. MedianFilter takes samples outside the signal as 0, the mean of the middle two of an even number, and NaN
-// as soon as a window holds one; a negative rightRank means leftRank; 2^32 samples are too many for a window's memory.
+// zeros are used and nothing is kept when state is null or of another count; it leaves the reset flag alone), the
+// direct form in the last na - 1 outputs ya and nb - 1 inputs xb, newest last; null ya or xb mean zeros. The results
+// have the same bits however a signal is cut into blocks; subnormal numbers count as 0. ZeroPhaseFiltering runs
+// forwards, then backwards, from zeros each time. MedianFilter takes samples outside the signal as 0, the mean of the
+// middle two of an even number, and NaN as soon as a window holds one; a negative rightRank means leftRank; 2^32
+// samples are too many for a window's memory.
 NIANLYS_API Status AALFunc91(const double* x, std::int64_t n, IirFilter* filter,
                              double* y) noexcept; // IIRCascadeFiltering
 NIANLYS_API Status AALFunc466(const Complex* x, std::int64_t n, IirFilter* filter, ComplexState* state,

@@ -250,8 +250,8 @@ void response(Command& command)
     command.option("--delay", options->delay, "Unit of the group delay").oneOf({"samples", "ms"}).showDefault();
     command
         .option("--form", options->form,
-                "Of an IIR filter: the sections that filter works with, or the coefficients of\n"
-                "the direct form")
+                "Of an IIR filter: the sections of its cascade coefficients, which filter works with\n"
+                "too, but for bands, where its shorter sections lose less; or the direct form")
         .oneOf({"cascade", "direct"})
         .showDefault();
     command.run([options] { run(*options); });

@@ -35,7 +35,7 @@ TEST(PlanCache, GivesTheSameBitsWhenASizeComesBack)
         EXPECT_EQ(resultsOf(n), first[n - 1]) << n;
 }
 
-TEST(PlanCache, HoldsNoMoreThanItMayOfLargeSizes)
+TEST(PlanCache, GivesTheSameBitsAfterManyLargeSizes)
 {
     const Array before = resultsOf(20000);
     for (std::size_t n = 20000; n < 20016; ++n) // a megabyte each, and more
@@ -62,6 +62,30 @@ TEST(PlanCache, ServesThreadsThatUseTheSameAndOtherSizes)
             });
     }
     EXPECT_EQ(wrong, 0);
+}
+
+TEST(FftTable, ServesThreadsAtOnce)
+{
+    constexpr std::size_t kSize = 240;
+    FftTable* const table = AALFunc260(kSize);
+    ASSERT_TRUE(table);
+    const Complexes x = interleaved(complexNoise(kSize));
+    Complexes expected(kSize);
+    ASSERT_EQ(AALFunc263(x.data(), kSize, 0, nullptr, 0, expected.data()), Status::Success);
+    std::atomic<int> wrong{0};
+    {
+        std::vector<std::jthread> threads;
+        for (int id = 0; id < 4; ++id)
+            threads.emplace_back([&] {
+                Complexes y(kSize);
+                for (int i = 0; i < 300; ++i) {
+                    wrong += AALFunc263(x.data(), kSize, 0, table, 0, y.data()) == Status::Success ? 0 : 1;
+                    wrong += y == expected ? 0 : 1;
+                }
+            });
+    }
+    EXPECT_EQ(wrong, 0);
+    AALFunc261(table);
 }
 
 } // namespace
