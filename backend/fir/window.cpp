@@ -145,19 +145,19 @@ void check(const Window& window)
     require(isInRange || !shape->hasParameter, Status::InvalidSelection);
 }
 
-Buffer<> firstHalf(const Window& window, std::size_t taps)
+Buffer<> firstOfHalf(const Window& window, std::size_t taps, std::size_t count)
 {
     const Shape& shape = *shapeOf(window);
     const double parameter = parameterOf(window, shape);
     if (!shape.value)
         return dolphChebyshevHalf(parameter, taps);
-    Buffer<> half = makeBuffer((taps + 1) / 2);
+    Buffer<> half = makeBuffer(count);
     if (taps == 1)
         half[0] = 1;
     else
         inExtendedPrecision([&] {
             const auto last = static_cast<Real>(taps - 1);
-            for (std::size_t k = 0; k < (taps + 1) / 2; ++k)
+            for (std::size_t k = 0; k < count; ++k)
                 half[k] = static_cast<double>(
                     shape.value({shape, parameter, static_cast<Real>(taps), (last - 2 * static_cast<Real>(k)) / last}));
         });

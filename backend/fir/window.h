@@ -27,7 +27,8 @@ Window kaiserWindow(double beta);
 // Throws InvalidSelection.
 void check(const Window& window);
 
-// The first half of taps values, the middle of an odd number included; the second is its mirror image.
-Buffer<> firstHalf(const Window& window, std::size_t taps);
+// At least the first count values of the first half of taps ones, to which the middle of an odd number belongs; the
+// second half is its mirror image.
+Buffer<> firstOfHalf(const Window& window, std::size_t taps, std::size_t count);
 
 } // namespace quordsp::backend

@@ -6,6 +6,7 @@
 #include "fir/filtering.h"
 #include "status.h"
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 
@@ -59,15 +60,19 @@ private:
     bool isComplement_;
 };
 
-void compute(const WindowedDesign& design, double* h)
+// The first count of the taps.
+void compute(const WindowedDesign& design, std::size_t count, double* h)
 {
     const auto taps = static_cast<std::size_t>(design.taps);
-    const Buffer<> window = firstHalf(design.window, taps);
+    const std::size_t different = std::min(count, (taps + 1) / 2);
+    const Buffer<> window = firstOfHalf(design.window, taps, different);
     inExtendedPrecision([&] {
         const IdealResponse ideal(design.response, design.frequencies);
-        for (std::size_t k = 0; k < (taps + 1) / 2; ++k) {
+        for (std::size_t k = 0; k < different; ++k) {
             const auto halves = static_cast<std::int64_t>(taps - 1 - 2 * k);
-            h[k] = h[taps - 1 - k] = static_cast<double>(window[k] * ideal(halves));
+            h[k] = static_cast<double>(window[k] * ideal(halves));
+            if (const std::size_t mirrored = taps - 1 - k; mirrored < count)
+                h[mirrored] = h[k];
         }
     });
 }
@@ -79,7 +84,7 @@ Status designWindowed(const WindowedDesign& design, double* h) noexcept
     return guarded([&] {
         requireArrays(h);
         check(design);
-        compute(design, h);
+        compute(design, static_cast<std::size_t>(design.taps), h);
     });
 }
 
@@ -90,9 +95,10 @@ Status filterWindowed(const Sample* x, std::int64_t n, const WindowedDesign& des
         requirePositiveCount(n);
         requireArrays(x, y);
         check(design);
-        const Buffer<> h = makeBuffer(static_cast<std::size_t>(design.taps));
-        compute(design, h.get());
-        filterFromRest(x, n, h.get(), design.taps, y);
+        const std::int64_t met = std::min<std::int64_t>(design.taps, n); // the others meet the zeros before the signal
+        const Buffer<> h = makeBuffer(static_cast<std::size_t>(met));
+        compute(design, static_cast<std::size_t>(met), h.get());
+        filterFromRest(x, n, h.get(), met, y);
     });
 }
 

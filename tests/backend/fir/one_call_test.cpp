@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <limits>
+#include <numbers>
 #include <numeric>
 
 namespace quordsp::test {
@@ -42,6 +43,14 @@ TEST(WindowedFilter, IsItsDesignThenFilteringBitForBit)
         const Order order{type, 1000, 100, 300, 61, kKaiser, 6};
         EXPECT_EQ(filtered(x, order), filtered(x, designed(order)));
     }
+}
+
+// sin(2 pi 0.1 t) / (pi t) half of 2^31 - 2 samples before the centre, where 0.1 t has the fraction 0.3 (by hand).
+TEST(WindowedFilter, WorksOutNoMoreTapsThanMeetSamples)
+{
+    const Array x = noise(10), y = filtered(x, Order{kLowPass, 1, 0.1, 0, std::numeric_limits<std::int32_t>::max(), 0});
+    const double first = 0.951056516295153572 / (std::numbers::pi * 1073741823);
+    EXPECT_NEAR(y[0] / x[0], first, 1e-7 * first);
 }
 
 TEST(WindowedFilter, HasAnEntryForEachResponse)
