@@ -1081,7 +1081,8 @@ QUORDSP_API AnalysisLibErrType QuorDSP_Equi_Ripple(int bandCount, const double* 
  *                                          derivative at the middle for unit spacing; may be null if not to be filled
  * @return 0; -5093 no backend; -5094 entry missing; -20008 null array; -20103 order < 0; -20004 sidePoints; -20037
  *         F <= order; -20041 a bad weight, too many zero weights, or weights so far apart (1e25 and more) that the
- *         small ones are lost beside the others; -20001 memory. On failure the outputs are untouched.
+ *         small ones are lost beside the others; -20001 memory (default backend: also (order + 1)^2 F > 2^32, which
+ *         would take minutes). On failure the outputs are untouched.
  * @accuracy filters within 1e-15
  * @threads any, on different arrays    @entry AALFunc355    @source Savitzky & Golay
  */

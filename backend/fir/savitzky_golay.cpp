@@ -17,6 +17,9 @@ std::int64_t frameOf(const PolynomialFit& fit)
     return 2 * std::int64_t{fit.sidePoints} + 1;
 }
 
+// Making polynomials orthogonal takes the square of their number times the frame: what this allows takes seconds.
+constexpr std::int64_t kMostWork = std::int64_t{1} << 32;
+
 bool isWeight(double weight)
 {
     return std::isfinite(weight) && weight >= 0;
@@ -28,6 +31,8 @@ void check(const PolynomialFit& fit)
     require(fit.order >= 0, Status::OrderNegative);
     require(fit.sidePoints >= 0, Status::CountNegative);
     require(frame > fit.order, Status::TooFewPointsForOrder);
+    const std::int64_t count = std::int64_t{fit.order} + 1;
+    require(count <= kMostWork / count / frame, Status::OutOfMemory);
     if (!fit.weights)
         return;
     require(std::all_of(fit.weights, fit.weights + frame, isWeight), Status::Singular);

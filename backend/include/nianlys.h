@@ -303,7 +303,8 @@ NIANLYS_API Status AALFunc408(std::int32_t taps, double fs, const Band* bands, s
 
 // Savitzky-Golay design: frame F = 2 sidePoints + 1 > polynomialOrder; filters F x F, diffFilters (polynomialOrder + 1)
 // x F. Weights that are negative or not finite, fewer than polynomialOrder + 1 positive ones, and weights so far apart
-// that the small ones are lost beside the others, are answered as "singular".
+// that the small ones are lost beside the others, are answered as "singular"; fits of (order + 1)^2 F > 2^32 as "out of
+// memory".
 NIANLYS_API Status AALFunc355(std::int32_t polynomialOrder, std::int32_t sidePoints, const double* weights,
                               std::int32_t computeDiffFilters, double* filters,
                               double* diffFilters) noexcept; // SavitzkyGolayCoef

@@ -111,6 +111,15 @@ TEST(SavitzkyGolay, InterpolatesWhenThereAreNoMorePointsThanCoefficients)
     }
 }
 
+TEST(SavitzkyGolay, RefusesWhatWouldTakeHours)
+{
+    const Array x(20001, 1.0);
+    Array y(x.size(), 7.0);
+    EXPECT_EQ(backend::AALFunc356(x.data(), static_cast<std::int64_t>(x.size()), 10000, 10000, nullptr, y.data()),
+              Status::OutOfMemory);
+    EXPECT_EQ(y, Array(x.size(), 7.0));
+}
+
 TEST(SavitzkyGolay, TakesNoWeightsForEqualOnes)
 {
     const Array ones(9, 1.0), fives(9, 5.0);
