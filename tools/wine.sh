@@ -7,14 +7,17 @@ export WINEPREFIX="${WINEPREFIX:-$root/build/wine}"
 export WINEDEBUG=-all WINEDLLOVERRIDES="${WINEDLLOVERRIDES:-mscoree,mshtml,winedbg.exe=}"
 unset DISPLAY
 export LC_ALL=C.UTF-8 # in the C locale, arguments outside ASCII arrive mangled
-wine=/usr/lib/wine/wine64
+# One start in a thousand and some would have its heap, at a random place, where Wine needs to put pages of its own,
+# and would end at once, without a word.
+wine="setarch -R /usr/lib/wine/wine64"
+setarch -R true 2>/dev/null || wine=/usr/lib/wine/wine64
 mkdir -p "$WINEPREFIX"
 if [ ! -e "$WINEPREFIX/.ready" ]; then
     # Tests start in parallel: only one makes the prefix.
     (
         flock 9
         if [ ! -e "$WINEPREFIX/.ready" ]; then
-            "$wine" wineboot --init >"$WINEPREFIX/wineboot.log" 2>&1 </dev/null
+            $wine wineboot --init >"$WINEPREFIX/wineboot.log" 2>&1 </dev/null
             touch "$WINEPREFIX/.ready"
         fi
     ) 9>"$WINEPREFIX/.lock"
@@ -26,10 +29,10 @@ fi
 messages=$(mktemp)
 trap 'rm -f "$messages"' EXIT
 status=0
-"$wine" "$@" 2>"$messages" || status=$?
+$wine "$@" 2>"$messages" || status=$?
 if grep -q '^wine client error' "$messages"; then
     status=0
-    "$wine" "$@" 2>"$messages" || status=$?
+    $wine "$@" 2>"$messages" || status=$?
 fi
 cat "$messages" >&2
 exit $status

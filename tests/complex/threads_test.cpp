@@ -1,8 +1,8 @@
 // Sixteen threads call the same export at once, on different data, from its first call on.
-#include <latch>
 #include <thread>
 
 #include "complex/complex_fixture.h"
+#include "support/starting_line.h"
 
 namespace quordsp::complex_exports {
 namespace {
@@ -37,12 +37,12 @@ TEST_F(ComplexThreads, GetTheirOwnResults)
     for (const Export& row : exports()) {
         const auto exported = support::library().symbol(row.name);
         std::vector<int> right(kThreads);
-        std::latch start{kThreads};
+        support::StartingLine start{kThreads};
         {
             std::vector<std::jthread> threads;
             for (int thread = 0; thread < kThreads; ++thread)
                 threads.emplace_back([&, thread] {
-                    start.arrive_and_wait();
+                    start.arriveAndWait();
                     right[static_cast<std::size_t>(thread)] = countRight(row, exported, thread);
                 });
         }

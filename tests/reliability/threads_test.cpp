@@ -3,7 +3,6 @@
 #include <fstream>
 #include <functional>
 #include <iterator>
-#include <latch>
 #include <string>
 #include <thread>
 
@@ -12,6 +11,7 @@
 #include "QuorDSP_DAQ.h"
 #include "support/folders.h"
 #include "support/integer_signal.h"
+#include "support/starting_line.h"
 
 namespace quordsp {
 namespace {
@@ -38,12 +38,12 @@ void expectTheSameFromThreads(const Routine& routine, int repetitions)
         alone.push_back(routine(thread));
     EXPECT_NE(alone[0], alone[1]);
     std::vector<int> agreements(kThreads);
-    std::latch start{kThreads};
+    support::StartingLine start{kThreads};
     {
         std::vector<std::jthread> threads;
         for (std::uint32_t thread = 0; thread < kThreads; ++thread)
             threads.emplace_back([&, thread] {
-                start.arrive_and_wait();
+                start.arriveAndWait();
                 for (int i = 0; i < repetitions; ++i)
                     agreements[thread] += routine(thread) == alone[thread];
             });

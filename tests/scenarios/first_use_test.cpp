@@ -2,13 +2,13 @@
 #include <algorithm>
 #include <atomic>
 #include <chrono>
-#include <latch>
 #include <thread>
 #include <vector>
 
 #include <gmock/gmock.h>
 
 #include "scenarios/search_folder.h"
+#include "support/starting_line.h"
 
 namespace {
 
@@ -24,12 +24,12 @@ template <class Call>
 auto callFromThreads(Call call)
 {
     constexpr std::size_t count = 32;
-    std::latch start{count};
+    support::StartingLine start{count};
     std::vector<decltype(call())> results(count);
     std::vector<std::jthread> threads;
     for (auto& result : results)
         threads.emplace_back([&start, &result, call] {
-            start.arrive_and_wait();
+            start.arriveAndWait();
             result = call();
         });
     threads.clear();
