@@ -1,8 +1,8 @@
 #include "fir/filtering.h"
 
 #include "buffer.h"
+#include "convolution_kernel.h"
 #include "cpu/instruction_set.h"
-#include "fir/convolution_kernel.h"
 #include "fir/overlap_save.h"
 #include "no_subnormals.h"
 
@@ -42,14 +42,14 @@ private:
 
 } // namespace
 
-void filterLanes(const double* x, std::int64_t n, const Fir& fir, std::int64_t lanes, double* state, double* y)
+void filterParts(const double* x, std::int64_t n, const Fir& fir, std::size_t parts, double* state, double* y)
 {
-    const auto count = static_cast<std::size_t>(n * lanes);
+    const auto count = static_cast<std::size_t>(n) * parts;
     if (fir.taps <= 0) {
         std::copy_n(x, x == y ? 0 : count, y);
         return;
     }
-    const auto taps = static_cast<std::size_t>(fir.taps), step = static_cast<std::size_t>(fir.spacing * lanes);
+    const auto taps = static_cast<std::size_t>(fir.taps), step = static_cast<std::size_t>(fir.spacing) * parts;
     const std::size_t block = std::min(kBlock, wholeTiles(count));
     Inputs inputs((taps - 1) * step, block, state);
     const NoSubnormals noSubnormals;
@@ -63,17 +63,17 @@ void filterLanes(const double* x, std::int64_t n, const Fir& fir, std::int64_t l
 }
 
 // Taps that only meet the zeros before the signal do not count.
-void filterLanesFromRest(const double* x, std::int64_t n, const Fir& fir, std::int64_t lanes, double* y)
+void filterPartsFromRest(const double* x, std::int64_t n, const Fir& fir, std::size_t parts, double* y)
 {
     const Fir met{fir.h, std::min(fir.taps, (n - 1) / fir.spacing + 1), fir.spacing};
-    const auto samples = static_cast<std::size_t>(n), stride = static_cast<std::size_t>(lanes);
+    const auto samples = static_cast<std::size_t>(n);
     if (met.spacing > 1 || met.taps <= 0 || !OverlapSave::pays(static_cast<std::size_t>(met.taps), samples)) {
-        filterLanes(x, n, met, lanes, nullptr, y);
+        filterParts(x, n, met, parts, nullptr, y);
         return;
     }
     const OverlapSave filter(met.h, static_cast<std::size_t>(met.taps), samples);
-    for (std::size_t lane = 0; lane < stride; ++lane)
-        filter.filter(x + lane, samples, stride, y + lane);
+    for (std::size_t part = 0; part < parts; ++part)
+        filter.filter(x + part, samples, parts, y + part);
 }
 
 } // namespace quordsp::backend

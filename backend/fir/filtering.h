@@ -5,6 +5,7 @@
 #pragma once
 
 #include "nianlys.h"
+#include "parts.h"
 #include "status.h"
 
 namespace quordsp::backend {
@@ -16,24 +17,15 @@ struct Fir {
     std::int64_t spacing = 1;
 };
 
-// A signal as doubles: a complex one is two in turn, which real coefficients filter alike.
-template <class Sample>
-struct Lanes {
-    static constexpr std::int64_t count = sizeof(Sample) / sizeof(double);
-    static const double* of(const Sample* samples) { return reinterpret_cast<const double*>(samples); }
-    static double* of(Sample* samples) { return reinterpret_cast<double*>(samples); }
-};
-
-void filterLanes(const double* x, std::int64_t n, const Fir& fir, std::int64_t lanes, double* state, double* y);
-void filterLanesFromRest(const double* x, std::int64_t n, const Fir& fir, std::int64_t lanes, double* y);
+void filterParts(const double* x, std::int64_t n, const Fir& fir, std::size_t parts, double* state, double* y);
+void filterPartsFromRest(const double* x, std::int64_t n, const Fir& fir, std::size_t parts, double* y);
 
 // state: the last (taps - 1) * spacing inputs, newest last, before and after; null means zeros. The results have the
 // same bits however a signal is cut into blocks, and whether real signals or parts of complex ones are filtered.
 template <class Sample>
 void filter(const Sample* x, std::int64_t n, const Fir& fir, Sample* state, Sample* y)
 {
-    filterLanes(Lanes<Sample>::of(x), n, fir, Lanes<Sample>::count, state ? Lanes<Sample>::of(state) : nullptr,
-                Lanes<Sample>::of(y));
+    filterParts(partsOf(x), n, fir, kParts<Sample>, state ? partsOf(state) : nullptr, partsOf(y));
 }
 
 // A whole signal from zero state. Many taps are worked off by Fourier transforms: results are then within 1e-12 sum |h|
@@ -41,7 +33,7 @@ void filter(const Sample* x, std::int64_t n, const Fir& fir, Sample* state, Samp
 template <class Sample>
 void filterFromRest(const Sample* x, std::int64_t n, const Fir& fir, Sample* y)
 {
-    filterLanesFromRest(Lanes<Sample>::of(x), n, fir, Lanes<Sample>::count, Lanes<Sample>::of(y));
+    filterPartsFromRest(partsOf(x), n, fir, kParts<Sample>, partsOf(y));
 }
 
 template <class Sample>

@@ -2,7 +2,7 @@
 // multiples of 1 / interpolation, followed by an image suppressor that stops the repetitions.
 #pragma once
 
-#include "iir/real.h"
+#include "real.h"
 
 #include <cstdint>
 #include <vector>

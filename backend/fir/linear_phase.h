@@ -4,7 +4,7 @@
 // of the sampling frequency, 0..1/2.
 #pragma once
 
-#include "iir/real.h"
+#include "real.h"
 
 #include <cstddef>
 #include <span>

@@ -197,7 +197,6 @@ Status filterNarrowBand(const Sample* x, std::int64_t n, const FirFilter& filter
         requirePositiveCount(n);
         requireArrays(x, y);
         checkRecord(filter);
-        const auto lanes = static_cast<std::size_t>(Lanes<Sample>::count);
         const auto count = static_cast<std::size_t>(n);
         const Buffer<Sample> between = makeBuffer<Sample>(count);
         filterFromRest(x, n, Fir{filter.model, filter.modelCount, filter.interpolation}, between.get());
@@ -206,8 +205,8 @@ Status filterNarrowBand(const Sample* x, std::int64_t n, const FirFilter& filter
         if (!isRest)
             return;
         const std::int64_t delay = ((filter.modelCount - 1) * filter.interpolation + filter.imageCount - 1) / 2;
-        subtractFromDelayed(Lanes<Sample>::of(x), count * lanes, static_cast<std::size_t>(delay) * lanes,
-                            Lanes<Sample>::of(between.get()), Lanes<Sample>::of(y));
+        subtractFromDelayed(partsOf(x), count * kParts<Sample>, static_cast<std::size_t>(delay) * kParts<Sample>,
+                            partsOf(between.get()), partsOf(y));
     });
 }
 

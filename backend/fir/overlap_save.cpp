@@ -2,8 +2,8 @@
 // transformed back; what comes out in the place of the history is wrapped around and not used.
 #include "fir/overlap_save.h"
 
+#include "convolution_kernel.h"
 #include "cpu/instruction_set.h"
-#include "fir/convolution_kernel.h"
 #include "no_subnormals.h"
 
 #include <bit>

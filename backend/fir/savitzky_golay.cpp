@@ -104,27 +104,28 @@ struct Smoother {
     Buffer<> head, tail;
 };
 
-Smoother prepare(const double* x, std::int64_t n, std::int64_t lanes, const PolynomialFit& fit)
+Smoother prepare(const double* x, std::int64_t n, std::size_t parts, const PolynomialFit& fit)
 {
     const OrthonormalPolynomials polynomials(fit.order, fit.sidePoints, fit.weights);
-    const auto frame = polynomials.frame(), side = frame / 2, stride = static_cast<std::size_t>(lanes);
-    Smoother smoother{makeBuffer(frame), makeBuffer(side * stride), makeBuffer(side * stride)};
+    const auto frame = polynomials.frame(), side = frame / 2;
+    Smoother smoother{makeBuffer(frame), makeBuffer(side * parts), makeBuffer(side * parts)};
     for (std::size_t m = 0; m < frame; ++m)
         smoother.h[frame - 1 - m] = static_cast<double>(factor(polynomials, side, m));
-    const double* const lastFrame = x + (static_cast<std::size_t>(n) - frame) * stride;
-    for (std::size_t lane = 0; lane < stride; ++lane) {
-        evaluate(polynomials, {x + lane, stride}, 0, side, smoother.head.get() + lane);
-        evaluate(polynomials, {lastFrame + lane, stride}, side + 1, side, smoother.tail.get() + lane);
+    const double* const lastFrame = x + (static_cast<std::size_t>(n) - frame) * parts;
+    for (std::size_t part = 0; part < parts; ++part) {
+        evaluate(polynomials, {x + part, parts}, 0, side, smoother.head.get() + part);
+        evaluate(polynomials, {lastFrame + part, parts}, side + 1, side, smoother.tail.get() + part);
     }
     return smoother;
 }
 
-void smooth(const double* x, std::int64_t n, std::int64_t lanes, const PolynomialFit& fit, double* y)
+void smooth(const double* x, std::int64_t n, std::size_t parts, const PolynomialFit& fit, double* y)
 {
-    const Smoother smoother = inExtendedPrecision([&] { return prepare(x, n, lanes, fit); });
-    filterLanesFromRest(x, n, {smoother.h.get(), frameOf(fit)}, lanes, y);
+    const Smoother smoother = inExtendedPrecision([&] { return prepare(x, n, parts, fit); });
+    filterPartsFromRest(x, n, {smoother.h.get(), frameOf(fit)}, parts, y);
     // The middle of a frame is sidePoints behind its last point.
-    const std::int64_t side = fit.sidePoints * lanes, count = n * lanes;
+    const std::size_t side = static_cast<std::size_t>(fit.sidePoints) * parts,
+                      count = static_cast<std::size_t>(n) * parts;
     std::copy(y + 2 * side, y + count, y + side);
     std::copy_n(smoother.head.get(), side, y);
     std::copy_n(smoother.tail.get(), side, y + count - side);
@@ -156,7 +157,7 @@ Status filterSavitzkyGolay(const Sample* x, std::int64_t n, const PolynomialFit&
         requireArrays(x, y);
         check(fit);
         require(n >= frameOf(fit), Status::ArraySize);
-        smooth(Lanes<Sample>::of(x), n, Lanes<Sample>::count, fit, Lanes<Sample>::of(y));
+        smooth(partsOf(x), n, kParts<Sample>, fit, partsOf(y));
     });
 }
 

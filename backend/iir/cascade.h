@@ -2,7 +2,7 @@
 #pragma once
 
 #include "iir/cascade_kernel.h"
-#include "iir/parts.h"
+#include "parts.h"
 
 namespace quordsp::backend {
 

@@ -1,7 +1,7 @@
 #include "iir/direct_filter.h"
 
+#include "convolution_kernel.h"
 #include "cpu/instruction_set.h"
-#include "fir/convolution_kernel.h"
 #include "iir/direct_kernel.h"
 #include "no_subnormals.h"
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "buffer.h"
-#include "iir/parts.h"
+#include "parts.h"
 
 #include <span>
 

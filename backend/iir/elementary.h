@@ -2,7 +2,7 @@
 // real.h says, of operations that IEEE 754 fixes alone.
 #pragma once
 
-#include "iir/real.h"
+#include "real.h"
 
 namespace quordsp::backend {
 

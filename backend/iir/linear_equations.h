@@ -1,7 +1,7 @@
 // Systems of linear equations with complex coefficients.
 #pragma once
 
-#include "iir/real.h"
+#include "real.h"
 
 #include <algorithm>
 #include <span>

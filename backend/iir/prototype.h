@@ -1,7 +1,7 @@
 // Low-pass prototypes with cut-off 1 rad/s: what distinguishes one family of filters from another, and nothing else.
 #pragma once
 
-#include "iir/real.h"
+#include "real.h"
 
 #include <cstdint>
 #include <limits>

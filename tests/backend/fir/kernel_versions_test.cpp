@@ -1,5 +1,5 @@
 // The FIR kernel for every instruction set that this machine has: the same bits from all of them.
-#include "fir/convolution_kernel.h"
+#include "convolution_kernel.h"
 
 #include "cpu/instruction_set.h"
 
