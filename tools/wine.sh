@@ -7,7 +7,7 @@ export WINEPREFIX="${WINEPREFIX:-$root/build/wine}"
 export WINEDEBUG=-all WINEDLLOVERRIDES="${WINEDLLOVERRIDES:-mscoree,mshtml,winedbg.exe=}"
 unset DISPLAY
 export LC_ALL=C.UTF-8 # in the C locale, arguments outside ASCII arrive mangled
-# One start in a thousand and some would have its heap, at a random place, where Wine needs to put pages of its own,
+# One start in some thousands would have its heap, at a random place, where Wine needs to put pages of its own,
 # and would end at once, without a word.
 wine="setarch -R /usr/lib/wine/wine64"
 setarch -R true 2>/dev/null || wine=/usr/lib/wine/wine64
