@@ -7,6 +7,7 @@
 
 #include "commands/commands.h"
 #include "failure.h"
+#include "interrupt.h"
 #include "label.h"
 
 namespace quordsp::cli {
@@ -34,6 +35,9 @@ int run(int argc, const char* const* argv)
         parseAndRun(argc, argv, kCommands);
     } catch (const Failure& failure) {
         return report(failure.code(), failure.what(), failure.advice());
+    } catch (const Interrupted& interruption) {
+        std::cerr << "quordsp: interrupted, nothing is written\n";
+        return kInterruptedCode + interruption.signal;
     } catch (const std::bad_alloc&) {
         return report(ExitCode::Internal, "not enough memory", "cut the file into parts");
     } catch (const std::exception& error) {

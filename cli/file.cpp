@@ -138,6 +138,7 @@ OutputFile::OutputFile(const fs::path& path) : pending_(path), stream_(pending_.
 
 void OutputFile::write(std::string_view bytes)
 {
+    endIfInterrupted();
     errno = 0;
     if (!stream_.write(bytes.data(), static_cast<std::streamsize>(bytes.size())))
         pending_.fail(errno);

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "interrupt.h"
+
 namespace quordsp::cli {
 
 // The bytes of a file; throws a Failure when it cannot be read.
@@ -22,7 +24,7 @@ bool sameFile(const std::filesystem::path& one, const std::filesystem::path& oth
 
 // The place of a file to be: a temporary name in the target's folder, of ASCII letters whatever the target is called.
 // commit() gives what was written there the target's name, over an older file of that name; without it the destructor
-// leaves nothing behind.
+// leaves nothing behind. Interruptions are noted for that long.
 class PendingFile {
 public:
     // Throws a Failure when the target is there and is no regular file.
@@ -39,6 +41,7 @@ public:
     void commit();
 
 private:
+    InterruptionsNoted noted_;
     std::filesystem::path path_;
     std::filesystem::path temporary_;
 };
@@ -48,6 +51,7 @@ class OutputFile {
 public:
     explicit OutputFile(const std::filesystem::path& path);
 
+    // Also throws an Interrupted.
     void write(std::string_view bytes);
     void commit();
 

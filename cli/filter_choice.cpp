@@ -8,18 +8,27 @@
 #include <utility>
 
 #include "failure.h"
+#include "filter_window.h"
+#include "gain_bands.h"
 #include "number.h"
 
 namespace quordsp::cli {
 namespace {
 
+// Coefficients of 8 MB: the transition of such a filter is a few millionths of the sampling rate.
+constexpr int kMostTaps = 1 << 20;
+// The library gives derivatives with a square of frame by frame numbers, 800 MB here.
+constexpr int kMostSideOfDerivative = 5000;
+
 struct ParameterOption {
     Parameters bit;
     std::string_view name;
     bool (*isGiven)(const FilterChoice& choice);
+    bool isOptional = false;
 };
 
 constexpr ParameterOption kOptions[] = {
+    {kResponse, "--response", [](const FilterChoice& choice) { return !choice.response.empty(); }},
     {kOrder, "--order", [](const FilterChoice& choice) { return choice.order.has_value(); }},
     {kTaps, "--taps", [](const FilterChoice& choice) { return choice.taps.has_value(); }},
     {kCutoff, "--cutoff", [](const FilterChoice& choice) { return !choice.cutoff.empty(); }},
@@ -28,6 +37,10 @@ constexpr ParameterOption kOptions[] = {
     {kAttenuation, "--attenuation", [](const FilterChoice& choice) { return choice.attenuation.has_value(); }},
     {kWindow, "--window", [](const FilterChoice& choice) { return !choice.window.empty(); }},
     {kBeta, "--beta", [](const FilterChoice& choice) { return choice.beta.has_value(); }},
+    {kBands, "--bands", [](const FilterChoice& choice) { return !choice.bands.empty(); }},
+    {kSide, "--side", [](const FilterChoice& choice) { return choice.side.has_value(); }},
+    {kWeights, "--weights", [](const FilterChoice& choice) { return !choice.weights.empty(); }, true},
+    {kDerivative, "--derivative", [](const FilterChoice& choice) { return choice.derivative.has_value(); }, true},
 };
 
 std::string joined(std::string list, std::string_view name)
@@ -56,7 +69,7 @@ std::string optionsOf(const FilterFamily& family)
 void requireWhatItTakes(const FilterFamily& family, const FilterChoice& choice)
 {
     for (const ParameterOption& option : kOptions)
-        if ((family.takes & option.bit) != 0 && !option.isGiven(choice))
+        if ((family.takes & option.bit) != 0 && !option.isOptional && !option.isGiven(choice))
             throw Failure(ExitCode::Usage, std::string(family.name) + " needs " + std::string(option.name),
                           std::string(family.name) + " takes " + optionsOf(family));
 }
@@ -91,6 +104,41 @@ void requireDifferentFamilies(const FilterChoice& choice)
         throw Failure(ExitCode::Usage, "--family names a design twice", "name each one once");
 }
 
+void requireAtMost(const std::optional<int>& value, int most, const std::string& option, const std::string& why)
+{
+    if (value && *value > most)
+        throw Failure(ExitCode::Usage, option + " must be at most " + std::to_string(most), why);
+}
+
+// What memory is taken for before the library is asked.
+void requireSizes(const FilterChoice& choice)
+{
+    requireAtMost(choice.taps, kMostTaps, "--taps", "use fewer, or narrow-band, which needs fewer for the same");
+    if (choice.derivative.value_or(0) > 0)
+        requireAtMost(choice.side, kMostSideOfDerivative, "--side with --derivative",
+                      "the memory grows with its square");
+}
+
+void requireFit(const FilterFamily& family, const FilterChoice& choice)
+{
+    if ((family.takes & kSide) == 0)
+        return;
+    const auto frame = 2 * std::int64_t{*choice.side} + 1;
+    if (!choice.weights.empty() && std::ssize(choice.weights) != frame)
+        throw Failure(ExitCode::Usage, "there are " + std::to_string(choice.weights.size()) + " --weights",
+                      "give " + std::to_string(frame) + ", one a sample of the frame: twice the --side and one");
+    if (const int derivative = choice.derivative.value_or(0); derivative < 0 || derivative > std::max(*choice.order, 0))
+        throw Failure(ExitCode::Usage, "--derivative must be from 0 to the --order",
+                      "a polynomial has no more derivatives than its order");
+}
+
+void requireResponse(const FilterFamily& family, int type, const std::string& response)
+{
+    if (type >= family.responses && family.responses > 0)
+        throw Failure(ExitCode::Usage, std::string(family.name) + " has no response " + response,
+                      "take narrow-band, or another family");
+}
+
 const std::vector<double>& frequenciesFor(const FilterFamily& family, const FilterChoice& choice)
 {
     return (family.takes & kEdges) != 0 ? choice.edges : choice.cutoff;
@@ -106,6 +154,8 @@ const char* edgeAdvice(int edges, bool isBandEnds)
 void requireEdges(const FilterFamily& family, int type, const FilterChoice& choice)
 {
     const int wanted = edgeCount(family, type);
+    if (wanted == 0)
+        return;
     const auto given = std::ssize(frequenciesFor(family, choice));
     const bool isBandEnds = (family.takes & kEdges) != 0;
     if (given != wanted)
@@ -124,9 +174,26 @@ FilterRequest requestOf(const FilterFamily& family, int type, const FilterChoice
                           .attenuation = choice.attenuation.value_or(0),
                           .window = choice.window.empty() ? 0 : filterWindow(choice.window).code,
                           .parameter = choice.parameter.value_or(std::numeric_limits<double>::quiet_NaN()),
-                          .beta = choice.beta.value_or(0)};
-    std::ranges::copy(frequenciesFor(family, choice), request.edges);
+                          .beta = choice.beta.value_or(0),
+                          .side = choice.side.value_or(0),
+                          .weights = choice.weights,
+                          .derivative = family.derivative};
+    if ((family.takes & kBands) != 0)
+        request.bands = parseGainBands(choice.bands);
+    if ((family.takes & kDerivative) != 0)
+        request.derivative = choice.derivative.value_or(0);
+    if (edgeCount(family, type) > 0)
+        std::ranges::copy(frequenciesFor(family, choice), request.edges);
     return request;
+}
+
+// "smoothing", "derivative 2", "Hilbert transform 50 to 450 Hz"
+std::string purposeOf(const FilterFamily& family, const FilterRequest& request)
+{
+    std::string text(request.derivative > 0 ? "derivative" : family.purpose);
+    if (request.derivative > 1)
+        text += " " + std::to_string(request.derivative);
+    return (family.takes & kBands) != 0 ? text + " " + describe(request.bands) : text;
 }
 
 // "bandpass 90 to 110 Hz", and with the ends of transitions "bandpass 80/90 to 110/120 Hz"
@@ -152,78 +219,32 @@ std::string designOf(const FilterFamily& family, const FilterChoice& choice)
     add(kAttenuation, ", attenuation " + rounded(choice.attenuation.value_or(0)) + " dB");
     add(kWindow, ", window " + choice.window + (choice.parameter ? " " + rounded(*choice.parameter) : ""));
     add(kBeta, ", beta " + rounded(choice.beta.value_or(0)));
+    add(kSide, " over " + counted(static_cast<std::size_t>(std::max(2 * choice.side.value_or(0) + 1, 0)), "sample"));
+    add(kWeights, choice.weights.empty() ? "" : ", weighted");
     return text;
 }
 
-template <class Rows>
-std::vector<std::string> namesOf(const Rows& rows)
-{
-    std::vector<std::string> names;
-    for (const auto& row : rows)
-        names.emplace_back(row.name);
-    return names;
-}
-
 } // namespace
-
-void addFilter(Command& command, FilterChoice& choice)
-{
-    command.option("--response", choice.response, "What passes")
-        .required()
-        .oneOf(std::vector<std::string>(kResponses.begin(), kResponses.end()));
-    command
-        .option("--order", choice.order,
-                "Order of the low-pass prototype, 1 or more; a band filter has twice the poles")
-        .whole();
-    command
-        .option("--cutoff", choice.cutoff,
-                "Two ascending ones for a band. Here the gain is -3 dB for butterworth, minus\n"
-                "the ripple for chebyshev and elliptic, minus the attenuation for\n"
-                "inverse-chebyshev, -6 dB for windowed and kaiser. INPUT goes before it")
-        .values(1, 2)
-        .number()
-        .placeholder("HZ [HZ]");
-    command.option("--family", choice.families, "Design, or several with commas to compare them")
-        .list()
-        .oneOf(namesOf(filterFamilies()))
-        .showDefault();
-    command.option("--ripple", choice.ripple, "Of the pass band, for chebyshev and elliptic")
-        .number()
-        .placeholder("DB");
-    command.option("--attenuation", choice.attenuation, "Of the stop band, for inverse-chebyshev and elliptic")
-        .number()
-        .placeholder("DB");
-    command
-        .option("--taps", choice.taps,
-                "Number of coefficients, for windowed, kaiser and equiripple; odd for highpass\n"
-                "and bandstop")
-        .whole();
-    command.option("--window", choice.window, "For windowed").oneOf(namesOf(filterWindows()));
-    command
-        .option("--param", choice.parameter, "Of the windows kaiser (beta), dolph-chebyshev (dB) and gaussian (sigma)")
-        .number();
-    command.option("--beta", choice.beta, "Shape of the window, for kaiser").number();
-    command
-        .option("--edges", choice.edges,
-                "For equiripple, in place of --cutoff: the two ends of each transition,\n"
-                "ascending; four for a band")
-        .values(2, 4)
-        .number()
-        .placeholder("HZ HZ [HZ HZ]");
-}
 
 std::vector<ChosenFilter> chosenFilters(const FilterChoice& choice)
 {
     requireDifferentFamilies(choice);
     refuseWhatNoneTakes(choice);
     requireWindowOfParameter(choice);
-    const auto type = static_cast<int>(std::ranges::find(kResponses, choice.response) - kResponses.begin());
+    requireSizes(choice);
+    const auto type = choice.response.empty()
+                          ? 0
+                          : static_cast<int>(std::ranges::find(kResponses, choice.response) - kResponses.begin());
     std::vector<ChosenFilter> filters;
     for (const std::string& name : choice.families) {
         const FilterFamily& family = filterFamily(name);
         requireWhatItTakes(family, choice);
+        requireResponse(family, type, choice.response);
         requireEdges(family, type, choice);
-        filters.push_back({family, requestOf(family, type, choice), bandOf(family, choice), designOf(family, choice)});
+        requireFit(family, choice);
+        FilterRequest request = requestOf(family, type, choice);
+        std::string band = family.responses > 0 ? bandOf(family, choice) : purposeOf(family, request);
+        filters.push_back({family, std::move(request), std::move(band), designOf(family, choice)});
     }
     return filters;
 }
@@ -232,7 +253,12 @@ std::string describeBand(const std::vector<ChosenFilter>& filters)
 {
     const std::string& band = filters.front().band;
     const bool isCommon = std::ranges::all_of(filters, [&](const ChosenFilter& one) { return one.band == band; });
-    return isCommon ? band : std::string(kResponses[static_cast<std::size_t>(filters.front().request.type)]);
+    if (isCommon)
+        return band;
+    const bool haveResponse =
+        std::ranges::all_of(filters, [](const ChosenFilter& one) { return one.family.responses > 0; });
+    return haveResponse ? std::string(kResponses[static_cast<std::size_t>(filters.front().request.type)])
+                        : counted(filters.size(), "filter");
 }
 
 } // namespace quordsp::cli

@@ -9,9 +9,11 @@
 
 namespace quordsp::cli {
 
+inline constexpr int kMostSide = 1 << 19; // of savitzky-golay: a frame of 8 MB
+
 struct FilterChoice {
     std::vector<std::string> families{"butterworth"};
-    std::string response = {}; // one of kResponses
+    std::string response = {}; // one of kResponses; empty: none
     std::optional<int> order = std::nullopt;
     std::optional<int> taps = std::nullopt;
     std::vector<double> cutoff = {};
@@ -21,12 +23,16 @@ struct FilterChoice {
     std::string window = {};
     std::optional<double> parameter = std::nullopt;
     std::optional<double> beta = std::nullopt;
+    std::vector<std::string> bands = {};
+    std::optional<int> side = std::nullopt;
+    std::vector<double> weights = {};
+    std::optional<int> derivative = std::nullopt;
 };
 
 struct ChosenFilter {
     const FilterFamily& family;
     FilterRequest request; // without the rate
-    std::string band;      // "bandpass 90 to 110 Hz"
+    std::string band;      // "bandpass 90 to 110 Hz", "smoothing"
     std::string design;    // "butterworth of order 4"
 
     [[nodiscard]] std::string describe() const { return band + ", " + design; }
@@ -37,7 +43,8 @@ void addFilter(Command& command, FilterChoice& choice);
 // One filter a family. Throws a Failure that names the option that a family lacks, or that no family takes.
 std::vector<ChosenFilter> chosenFilters(const FilterChoice& choice);
 
-// "bandpass 90 to 110 Hz", or the response alone where the families take different frequencies.
+// "bandpass 90 to 110 Hz"; the response alone where the families take different frequencies, "2 filters" where they
+// have different purposes.
 std::string describeBand(const std::vector<ChosenFilter>& filters);
 
 } // namespace quordsp::cli

@@ -13,6 +13,7 @@ namespace {
 using Complex = std::complex<double>;
 
 constexpr double kTurn = 2 * std::numbers::pi;
+constexpr double kNextToEnd = 0.49999;
 constexpr double kRounding = std::numeric_limits<double>::epsilon() / 2; // of a coefficient, relative
 
 // exp(-j 2 pi frequency), exact at 0 and at half the sampling rate.
@@ -124,7 +125,38 @@ FrequencyResponse::FrequencyResponse(std::span<const Section> sections)
     }
 }
 
+// A zero at the end of the axis of a low-pass of odd order takes half a turn back.
+FrequencyResponse::FrequencyResponse(const TransferFunction& function) : FrequencyResponse(function.sections)
+{
+    lead_ = function.impulse.lead;
+    map_ = function.map;
+    if (map_)
+        turns_ = std::ceil(2 * ofSections(kNextToEnd).phase / kTurn - 0.25);
+}
+
 double FrequencyResponse::decibels(double frequency) const
+{
+    return decibelsOfSections(map_ ? std::abs(map_->placeOf(frequency).frequency) : frequency);
+}
+
+ResponsePoint FrequencyResponse::at(double frequency) const
+{
+    ResponsePoint point = map_ ? mapped(frequency) : ofSections(frequency);
+    point.phase += kTurn * frequency * lead_;
+    point.delay -= lead_;
+    return point;
+}
+
+ResponsePoint FrequencyResponse::mapped(double frequency) const
+{
+    const auto [place, slope, isBehind] = map_->placeOf(frequency);
+    ResponsePoint point = ofSections(std::abs(place));
+    point.phase = std::copysign(1.0, place) * point.phase + (isBehind ? kTurn * turns_ : 0);
+    point.delay *= slope;
+    return point;
+}
+
+double FrequencyResponse::decibelsOfSections(double frequency) const
 {
     double sum = 0;
     for (std::size_t i = 0; i < forward_.size(); ++i)
@@ -132,7 +164,7 @@ double FrequencyResponse::decibels(double frequency) const
     return sum;
 }
 
-ResponsePoint FrequencyResponse::at(double frequency) const
+ResponsePoint FrequencyResponse::ofSections(double frequency) const
 {
     ResponsePoint sum{};
     for (std::size_t i = 0; i < forward_.size(); ++i) {
@@ -159,9 +191,17 @@ double shiftOf(const std::vector<double>& reverse, const std::vector<Complex>& p
     return std::min(moved / distances, std::pow(moved, 1 / static_cast<double>(poles.size())));
 }
 
-} // namespace
+Poles mappedPoles(std::span<const Section> sections, const BandMap& map)
+{
+    Poles result;
+    for (const Section& section : sections)
+        for (const Complex pole : zerosOf(section.reverse))
+            for (const double distance : map.distancesOf(pole))
+                result.greatestRadius = std::max(result.greatestRadius, 1 - distance);
+    return result;
+}
 
-Poles polesOf(std::span<const Section> sections)
+Poles sectionPoles(std::span<const Section> sections)
 {
     Poles result;
     for (const Section& section : sections) {
@@ -173,6 +213,13 @@ Poles polesOf(std::span<const Section> sections)
         }
     }
     return result;
+}
+
+} // namespace
+
+Poles polesOf(const TransferFunction& function)
+{
+    return function.map ? mappedPoles(function.sections, *function.map) : sectionPoles(function.sections);
 }
 
 } // namespace quordsp::cli

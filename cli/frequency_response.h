@@ -2,6 +2,7 @@
 // product of many sections overflows or vanishes.
 #pragma once
 #include <complex>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -37,13 +38,21 @@ private:
 class FrequencyResponse {
 public:
     explicit FrequencyResponse(std::span<const Section> sections);
+    explicit FrequencyResponse(const TransferFunction& function);
 
     [[nodiscard]] double decibels(double frequency) const;
     [[nodiscard]] ResponsePoint at(double frequency) const;
 
 private:
+    [[nodiscard]] double decibelsOfSections(double frequency) const;
+    [[nodiscard]] ResponsePoint ofSections(double frequency) const;
+    [[nodiscard]] ResponsePoint mapped(double frequency) const;
+
     std::vector<CirclePolynomial> forward_;
     std::vector<CirclePolynomial> reverse_;
+    double lead_ = 0; // samples
+    std::optional<BandMap> map_;
+    double turns_ = 0; // of the phase, all along the low-pass's axis, where there is a map
 };
 
 struct Poles {
@@ -53,6 +62,6 @@ struct Poles {
     double shift = 0;
 };
 
-Poles polesOf(std::span<const Section> sections);
+Poles polesOf(const TransferFunction& function);
 
 } // namespace quordsp::cli

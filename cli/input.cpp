@@ -55,25 +55,50 @@ void setTimes(Series& series, const InputChoice& choice, std::vector<double> tim
     series.start = times.front();
 }
 
+// One column, or that of the real part and that of the imaginary part.
+std::vector<std::size_t> chooseParts(const InputChoice& choice, const std::vector<std::string>& names,
+                                     std::size_t otherwise)
+{
+    std::vector<std::size_t> parts{chooseColumn(choice, names, otherwise)};
+    if (choice.imaginary.empty())
+        return parts;
+    InputChoice imaginary = choice;
+    imaginary.column = choice.imaginary;
+    parts.push_back(chooseColumn(imaginary, names, otherwise));
+    return parts;
+}
+
+Label jointLabel(const Label& real, const Label& imaginary)
+{
+    if (real.unit != imaginary.unit)
+        throw Failure(ExitCode::Usage,
+                      "the real part is '" + real.axis() + "', the imaginary part '" + imaginary.axis() + "'",
+                      "choose two columns of the same unit");
+    return {real.quantity + " + j " + imaginary.quantity, real.unit};
+}
+
 Series readCsv(const InputChoice& choice, std::string text)
 {
     const CsvDocument document(std::move(text), display(choice.path));
     const auto time = findTimeColumn(document.names());
-    const std::size_t column = chooseColumn(choice, document.names(), time && time->index == 0 ? 1 : 0);
+    std::vector<std::size_t> wanted = chooseParts(choice, document.names(), time && time->index == 0 ? 1 : 0);
     if (!time && !choice.rate)
         throw Failure(ExitCode::Usage, display(choice.path) + ": the file has no time column, and no --rate is given",
                       "give the sampling rate in Hz with --rate");
-    std::vector<std::size_t> wanted{column};
     if (!choice.rate)
         wanted.push_back(time->index);
     auto values = document.columns(wanted);
-    Series series{.label = parseLabel(document.names()[column]), .samples = std::move(values[0])};
+    Series series{.label = parseLabel(document.names()[wanted[0]]), .samples = std::move(values[0])};
+    if (!choice.imaginary.empty()) {
+        series.label = jointLabel(series.label, parseLabel(document.names()[wanted[1]]));
+        series.imaginary = std::move(values[1]);
+    }
     if (series.samples.empty())
         badInput(choice, "there is no row of numbers", "name a file with one sample a line");
     if (choice.rate)
         series.rate = *choice.rate;
     else
-        setTimes(series, choice, std::move(values[1]), time->seconds);
+        setTimes(series, choice, std::move(values.back()), time->seconds);
     return series;
 }
 
@@ -85,8 +110,14 @@ Series readWav(const InputChoice& choice, std::string bytes)
     std::vector<std::string> names(document.channels());
     for (std::size_t i = 0; i < names.size(); ++i)
         names[i] = "channel " + std::to_string(i + 1);
-    const std::size_t channel = chooseColumn(choice, names, 0);
-    return {.label = {names[channel], kFullScale}, .rate = document.rate(), .samples = document.channel(channel)};
+    const std::vector<std::size_t> channels = chooseParts(choice, names, 0);
+    Series series{
+        .label = {names[channels[0]], kFullScale}, .rate = document.rate(), .samples = document.channel(channels[0])};
+    if (channels.size() > 1) {
+        series.label = jointLabel(series.label, {names[channels[1]], kFullScale});
+        series.imaginary = document.channel(channels[1]);
+    }
+    return series;
 }
 
 bool hasWavEnding(const std::filesystem::path& path)
@@ -142,8 +173,10 @@ Series cut(Series series, const Span& span)
 {
     const auto [first, last] = samplesWithin(series, span, "--from and --to");
     series.start = series.time(first);
-    const auto begin = series.samples.begin();
-    series.samples = {begin + static_cast<std::ptrdiff_t>(first), begin + static_cast<std::ptrdiff_t>(last)};
+    for (std::vector<double>* const part : {&series.samples, &series.imaginary})
+        if (!part->empty())
+            *part = {part->begin() + static_cast<std::ptrdiff_t>(first),
+                     part->begin() + static_cast<std::ptrdiff_t>(last)};
     return series;
 }
 

@@ -1,4 +1,5 @@
-// The input of a command: a column of a CSV file or a channel of a WAV file, as one equally spaced signal.
+// The input of a command: a column of a CSV file or a channel of a WAV file, as one equally spaced signal; or two of
+// them as the parts of a complex one.
 #pragma once
 #include <filesystem>
 #include <optional>
@@ -13,12 +14,13 @@ struct InputChoice {
     std::filesystem::path path;
     std::string column;                        // name, or number from 1; empty: the first that is not time
     std::optional<double> rate = std::nullopt; // Hz; without it a CSV file's time column tells
+    std::string imaginary = {};                // column of the imaginary part; empty: the signal is real
 };
 
 // The column that is chosen among these, or that one when there is no choice; throws a Failure when it is not there.
 std::size_t chooseColumn(const InputChoice& choice, const std::vector<std::string>& names, std::size_t otherwise);
 
-// Throws a Failure when the file, the column or the rate does not fit.
+// Throws a Failure when the file, a column or the rate does not fit.
 Series readSeries(const InputChoice& choice);
 
 struct Span {

@@ -52,6 +52,16 @@ bool splitUnderscore(std::string_view name, Label& label)
     return true;
 }
 
+// The power of the second that a unit is divided by: 1 of "m/s", 2 of "m/s2".
+int secondsUnder(std::string_view unit)
+{
+    if (unit.ends_with("/s"))
+        return 1;
+    const bool hasPower =
+        unit.size() > 3 && unit.substr(unit.size() - 3, 2) == "/s" && unit.back() > '1' && unit.back() <= '9';
+    return hasPower ? unit.back() - '0' : 0;
+}
+
 } // namespace
 
 std::string Label::axis() const
@@ -84,6 +94,16 @@ std::string squared(std::string_view unit)
     if (unit.empty())
         return {};
     return std::ranges::all_of(unit, isPlain) ? std::string(unit) + "^2" : "(" + std::string(unit) + ")^2";
+}
+
+std::string perSeconds(std::string_view unit, int derivative)
+{
+    if (derivative == 0)
+        return std::string(unit);
+    const int before = secondsUnder(unit);
+    const int power = before + derivative;
+    std::string base(before == 0 ? unit : unit.substr(0, unit.rfind('/')));
+    return (base.empty() ? "1" : base) + "/s" + (power > 1 ? std::to_string(power) : "");
 }
 
 std::string printable(std::string_view text)

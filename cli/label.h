@@ -26,6 +26,9 @@ double voltsPerUnit(std::string_view unit);
 // The unit of a square: "g^2", "(m/s2)^2".
 std::string squared(std::string_view unit);
 
+// The unit of a derivative by seconds: "g/s", of "m/s" "m/s2".
+std::string perSeconds(std::string_view unit, int derivative);
+
 // For a terminal, which obeys control characters: they become question marks.
 std::string printable(std::string_view text);
 

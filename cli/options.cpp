@@ -21,6 +21,14 @@ void addInput(Command& command, InputChoice& input)
         .placeholder("HZ");
 }
 
+void addImaginary(Command& command, InputChoice& input, const std::string& effect)
+{
+    command
+        .option("--imaginary", input.imaginary,
+                "Column of the imaginary part; --column is the real part then, and the\n" + effect)
+        .placeholder("NAME|INDEX");
+}
+
 void addSpan(Command& command, Span& span)
 {
     command.option("--from", span.from, "Leave out what comes before").number().placeholder("S");

@@ -1,5 +1,7 @@
 // Options that several commands share.
 #pragma once
+#include <string>
+
 #include "command_line.h"
 #include "input.h"
 #include "result.h"
@@ -8,6 +10,9 @@ namespace quordsp::cli {
 
 // INPUT, --column and --rate.
 void addInput(Command& command, InputChoice& input);
+
+// --imaginary, with what it does to the result.
+void addImaginary(Command& command, InputChoice& input, const std::string& effect);
 
 // --from and --to.
 void addSpan(Command& command, Span& span);

@@ -24,6 +24,9 @@ bool sameName(const std::string& one, const std::string& other);
 // True when a person reads the error stream as it is written.
 bool errorsGoToTerminal();
 
+// Ends the process as if it had never handled the signal: a script in a shell stops then as well.
+[[noreturn]] void endBySignal(int signal);
+
 // The full path of a module that this process has loaded, by its file name; empty when it has not.
 std::string loadedModulePath(const std::string& fileName);
 

@@ -1,5 +1,6 @@
 #include "os.h"
 
+#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <string_view>
@@ -49,6 +50,13 @@ bool sameName(const std::string& one, const std::string& other)
 bool errorsGoToTerminal()
 {
     return isatty(STDERR_FILENO) != 0;
+}
+
+void endBySignal(int signal)
+{
+    std::signal(signal, SIG_DFL);
+    std::raise(signal);
+    std::abort();
 }
 
 std::string loadedModulePath(const std::string& fileName)

@@ -107,6 +107,11 @@ bool errorsGoToTerminal()
     return GetConsoleMode(GetStdHandle(STD_ERROR_HANDLE), &mode) != 0;
 }
 
+void endBySignal(int)
+{
+    ExitProcess(static_cast<UINT>(STATUS_CONTROL_C_EXIT));
+}
+
 std::string loadedModulePath(const std::string& fileName)
 {
     const HMODULE module = GetModuleHandleA(fileName.c_str());

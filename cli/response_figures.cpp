@@ -3,12 +3,13 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <functional>
 #include <limits>
 #include <numbers>
 #include <numeric>
 #include <span>
 
+#include "extremum.h"
+#include "gain_grid.h"
 #include "number.h"
 #include "progress.h"
 
@@ -19,22 +20,23 @@ const double kHalfPower = -10 * std::log10(2.0); // dB
 constexpr std::size_t kFewestPoints = 4000;      // of a segment
 constexpr std::size_t kPointsPerTap = 8;
 constexpr int kHalvings = 100;
-constexpr double kGoldenShare = 1 / std::numbers::phi;
 constexpr double kRippleTolerance = 0.01;      // of the ripple
 constexpr double kAttenuationTolerance = 0.01; // dB
 constexpr double kRadiusTolerance = 1e-3;      // of a pole's distance from the circle
+constexpr double kDeviationTolerance = 0.01;   // of the deviation, and
+constexpr double kDeviationFloor = 1e-12;      // of the gain 1
 
 enum class Role : std::uint8_t { Pass, Transition, Stop };
 
-// What lies between two neighbours of 0, the frequencies of the request, and half the sampling rate. The points crowd
-// at both ends, as the extrema do. Frequencies are shares of the sampling rate.
+// What lies between two neighbours of 0, the frequencies of the request, and half the sampling rate. Frequencies are
+// shares of the sampling rate.
 struct Segment {
     Role role;
     std::vector<double> frequencies;
     std::vector<double> gains; // dB
 };
 
-using Gain = std::function<double(double frequency)>;
+using Gain = Function; // dB
 
 // Pass and stop band alternate, with a transition between them when the request has the ends of both.
 Role roleOf(const ChosenFilter& filter, std::size_t segment)
@@ -47,34 +49,38 @@ Role roleOf(const ChosenFilter& filter, std::size_t segment)
     return passesFirst == (segment % 4 == 0) ? Role::Pass : Role::Stop;
 }
 
-Segment sample(Role role, double from, double to, std::size_t points, const Gain& gain)
+void add(Segment& segment, double frequency, double gain)
+{
+    segment.frequencies.push_back(frequency);
+    segment.gains.push_back(gain);
+}
+
+// Points that crowd at both ends, as the extrema of IIR designs do; those of the grid where there are more.
+Segment sample(Role role, double from, double to, const GainGrid& grid, const Gain& gain)
 {
     Segment segment{role, {}, {}};
-    for (std::size_t i = 0; i <= points; ++i) {
-        const double share =
-            (1 - std::cos(std::numbers::pi * static_cast<double>(i) / static_cast<double>(points))) / 2;
-        segment.frequencies.push_back(i < points ? from + (to - from) * share : to);
-        segment.gains.push_back(gain(segment.frequencies.back()));
-    }
+    add(segment, from, gain(from));
+    const auto [first, last] = grid.between(from, to);
+    if (last - first > kFewestPoints)
+        for (std::size_t point = first; point < last; ++point)
+            add(segment, grid.frequency(point), grid.decibels(point));
+    else
+        for (std::size_t i = 1; i < kFewestPoints; ++i) {
+            const double frequency = crowded(from, to, i, kFewestPoints);
+            add(segment, frequency, gain(frequency));
+        }
+    add(segment, to, gain(to));
     return segment;
 }
 
-// The lobes of a FIR filter are equally broad, so that the points in the middle must be near enough as well.
-std::size_t pointsFor(const TransferFunction& function)
-{
-    if (function.form != Form::Taps)
-        return kFewestPoints;
-    return std::max(kFewestPoints, kPointsPerTap * function.sections.front().forward.size());
-}
-
-std::vector<Segment> survey(const ChosenFilter& filter, double rate, std::size_t points, const Gain& gain)
+std::vector<Segment> survey(const ChosenFilter& filter, double rate, const GainGrid& grid, const Gain& gain)
 {
     std::vector<Segment> segments;
     double from = 0;
     const auto edges = static_cast<std::size_t>(edgeCount(filter.family, filter.request.type));
     for (std::size_t i = 0; i <= edges; ++i) {
         const double to = i < edges ? filter.request.edges[i] / rate : 0.5;
-        segments.push_back(sample(roleOf(filter, i), from, to, points, gain));
+        segments.push_back(sample(roleOf(filter, i), from, to, grid, gain));
         from = to;
     }
     return segments;
@@ -101,21 +107,6 @@ std::vector<double> halfPowerPoints(const std::vector<Segment>& segments, double
     return points;
 }
 
-// The greatest value of the function between two frequencies that has one maximum there.
-double peak(double from, double to, const Gain& function)
-{
-    double best = std::max(function(from), function(to));
-    for (int i = 0; i < kHalvings / 2; ++i) {
-        const double left = to - (to - from) * kGoldenShare;
-        const double right = from + (to - from) * kGoldenShare;
-        const double atLeft = function(left);
-        const double atRight = function(right);
-        best = std::max({best, atLeft, atRight});
-        (atLeft < atRight ? from : to) = atLeft < atRight ? left : right;
-    }
-    return best;
-}
-
 // The greatest value of sign * gain among points first to last of a segment, and between them.
 double greatest(const Segment& segment, std::size_t first, std::size_t last, double sign, const Gain& gain)
 {
@@ -125,7 +116,7 @@ double greatest(const Segment& segment, std::size_t first, std::size_t last, dou
             best = i;
     const double from = segment.frequencies[std::max(best, first + 1) - 1];
     const double to = segment.frequencies[std::min(best + 1, last)];
-    const double between = peak(from, to, [&](double frequency) { return sign * gain(frequency); });
+    const double between = peakBetween(from, to, [&](double frequency) { return sign * gain(frequency); });
     return std::max(between, sign * segment.gains[best]);
 }
 
@@ -173,6 +164,34 @@ std::optional<BandFigures> measureBands(const std::vector<Segment>& segments, Ro
     return figures;
 }
 
+// What gain 1 is at a frequency in Hz. The error of a differentiator's stop band is not by its frequency.
+double unitGain(const ChosenFilter& filter, const GainBand& band, double rate, double frequency)
+{
+    if (filter.request.derivative == 0)
+        return 1;
+    return 2 * std::numbers::pi * (band.gain != 0 ? frequency : rate);
+}
+
+// Each tap makes a lobe at the most.
+std::size_t pointsFor(const TransferFunction& function)
+{
+    return std::max(kFewestPoints, kPointsPerTap * function.impulse.taps.size());
+}
+
+std::vector<BandDeviation> measureDeviations(const ChosenFilter& filter, double rate, std::size_t points,
+                                             const Gain& gain)
+{
+    std::vector<BandDeviation> deviations;
+    for (const GainBand& band : filter.request.bands) {
+        const auto deviation = [&](double frequency) {
+            const double unit = unitGain(filter, band, rate, frequency * rate);
+            return unit > 0 ? std::abs(std::pow(10, gain(frequency) / 20) / unit - std::abs(band.gain)) : 0;
+        };
+        deviations.push_back({band, greatestBetween(band.from / rate, band.to / rate, points, deviation)});
+    }
+    return deviations;
+}
+
 std::string decibels(double value)
 {
     return rounded(value) + " dB";
@@ -214,6 +233,14 @@ void doubtBands(const ChosenFilter& filter, const ResponseFigures& figures, std:
                          decibels(request.attenuation));
 }
 
+void doubtDeviations(const ResponseFigures& figures, std::vector<std::string>& doubts)
+{
+    for (const auto& [band, deviation] : figures.deviations)
+        if (!(deviation * band.weight <= figures.ripple * (1 + kDeviationTolerance) + kDeviationFloor * band.weight))
+            doubts.push_back("the weighted deviation from " + rounded(band.from) + " to " + rounded(band.to) +
+                             " Hz is " + rounded(deviation * band.weight) + " instead of " + rounded(figures.ripple));
+}
+
 } // namespace
 
 ResponseFigures measureResponse(const ChosenFilter& filter, double rate, const TransferFunction& function,
@@ -221,7 +248,7 @@ ResponseFigures measureResponse(const ChosenFilter& filter, double rate, const T
 {
     const Progress progress("measuring the response");
     const Gain gain = [&](double frequency) { return response.decibels(frequency); };
-    const std::vector<Segment> segments = survey(filter, rate, pointsFor(function), gain);
+    const std::vector<Segment> segments = survey(filter, rate, GainGrid(function.impulse.taps), gain);
     ResponseFigures figures;
     for (std::size_t i = 0; i + 1 < segments.size(); ++i)
         figures.edgeGains.push_back(segments[i].gains.back());
@@ -229,7 +256,9 @@ ResponseFigures measureResponse(const ChosenFilter& filter, double rate, const T
     const double reached = -filter.request.attenuation;
     figures.pass = measureBands(segments, Role::Pass, filter.family.passEnd, reached, rate, gain);
     figures.stop = measureBands(segments, Role::Stop, filter.family.stopEnd, reached, rate, gain);
-    figures.poles = polesOf(function.sections);
+    figures.deviations = measureDeviations(filter, rate, pointsFor(function), gain);
+    figures.ripple = function.impulse.ripple;
+    figures.poles = polesOf(function);
     return figures;
 }
 
@@ -239,6 +268,7 @@ std::vector<std::string> doubtsAbout(const ChosenFilter& filter, const ResponseF
     doubtPoles(figures.poles, doubts);
     doubtEdges(filter, figures, doubts);
     doubtBands(filter, figures, doubts);
+    doubtDeviations(figures, doubts);
     return doubts;
 }
 

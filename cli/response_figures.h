@@ -20,11 +20,19 @@ struct BandFigures {
     double highest; // likewise
 };
 
+// How far the gain is off in a band of the request, as a share of 2 pi f when it is that of a derivative.
+struct BandDeviation {
+    GainBand band;
+    double deviation;
+};
+
 struct ResponseFigures {
     std::vector<double> edgeGains; // dB, at each frequency of the request
     std::vector<double> halfPower; // Hz, where the gain goes through -3.01 dB
     std::optional<BandFigures> pass;
     std::optional<BandFigures> stop;
+    std::vector<BandDeviation> deviations;
+    double ripple = 0; // largest weighted deviation, by the design; 0: it tells none
     Poles poles;
 };
 

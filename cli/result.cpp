@@ -15,6 +15,7 @@ void writeResult(const OutputChoice& output, const std::vector<OutputColumn>& co
     writeCsv(table, columns, rows);
     if (!output.plot.empty())
         plot.emplace(output.plot).write(drawPlot(makePlot()));
+    endIfInterrupted(); // for the last time: one file without the other would be half a result
     table.commit();
     if (plot)
         plot->commit();

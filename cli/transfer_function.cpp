@@ -1,6 +1,5 @@
 #include "transfer_function.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <memory>
 #include <optional>
@@ -22,9 +21,10 @@ struct Design {
 
 TransferFunction tapsOf(const Design& design)
 {
-    std::vector<double> taps(static_cast<std::size_t>(std::max(design.request.taps, 1)));
-    check(design.family.coefficients(design.request, taps.data()), design.call);
-    return {Form::Taps, {{std::move(taps), {1}}}};
+    TransferFunction function{Form::Taps, {}};
+    check(design.family.impulse(design.request, function.impulse), design.call);
+    function.sections.push_back({function.impulse.taps, {1}});
+    return function;
 }
 
 TransferFunction directFormOf(const Design& design)
@@ -59,17 +59,49 @@ std::vector<Section> sectionsOf(const QuorDSP_IIRFilter& record)
     return sections;
 }
 
-// None when the backend has no records or no design for them.
-std::optional<TransferFunction> cascadeOf(const Design& design)
+struct Cascade {
+    AnalysisLibErrType status;
+    std::vector<Section> sections; // none when the status is negative
+};
+
+// The record's call that allocates it is not the library's: a backend without it counts as one without the entry.
+Cascade cascadeOf(const Design& design, const FilterRequest& request)
 {
-    const Record record = allocateRecord(design.request);
+    const Record record = allocateRecord(request);
     if (!record)
+        return {QUORDSP_ENTRY_NOT_FOUND, {}};
+    const AnalysisLibErrType status = design.family.cascade(request, record.get());
+    return {status, status < 0 ? std::vector<Section>{} : sectionsOf(*record)};
+}
+
+// A refused band design by its low-pass; none when there is no such thing.
+std::optional<TransferFunction> mapped(const Design& design, AnalysisLibErrType refusal)
+{
+    FilterRequest lowpass = design.request;
+    if (lowpass.type < 2)
         return std::nullopt;
-    const AnalysisLibErrType status = design.family.cascade(design.request, record.get());
-    if (status == QUORDSP_ENTRY_NOT_FOUND)
+    const BandMap map(lowpass.edges[0] / lowpass.rate, lowpass.edges[1] / lowpass.rate, lowpass.type == 3);
+    lowpass.type = 0;
+    lowpass.edges[0] = lowpass.rate / 4;
+    const Cascade cascade = cascadeOf(design, lowpass);
+    if (cascade.status < 0)
         return std::nullopt;
-    check(status, design.call);
-    return TransferFunction{Form::Cascade, sectionsOf(*record)};
+    return TransferFunction{Form::Mapped, cascade.sections, {}, map, statusText(refusal)};
+}
+
+TransferFunction sectionsOrBest(const Design& design)
+{
+    const Cascade cascade = cascadeOf(design, design.request);
+    if (cascade.status == QUORDSP_ENTRY_NOT_FOUND) {
+        TransferFunction direct = directFormOf(design);
+        direct.refusal = statusText(cascade.status);
+        return direct;
+    }
+    if (cascade.status == QUORDSP_ERR_DESIGN_FAILED)
+        if (auto function = mapped(design, cascade.status))
+            return *std::move(function);
+    check(cascade.status, design.call + ", cascade");
+    return {Form::Cascade, cascade.sections};
 }
 
 // Loads the backend, and tells what is wrong with the request: the call that allocates a record cannot.
@@ -77,7 +109,8 @@ void tryDesign(const Design& design)
 {
     const double in = 1;
     double out = 0;
-    check(design.family.run(design.request, {&in, 1}, &out), design.call);
+    FilterSignal signal{{&in, 1}, &out};
+    check(design.family.run(design.request, signal), design.call);
 }
 
 } // namespace
@@ -87,13 +120,10 @@ TransferFunction designFilter(const ChosenFilter& filter, double rate, bool pref
     const Progress progress("designing");
     Design design{filter.family, filter.request, filter.describe() + " at " + rounded(rate) + " Hz"};
     design.request.rate = rate;
-    if (filter.family.coefficients)
+    if (filter.family.impulse)
         return tapsOf(design);
     tryDesign(design);
-    std::optional<TransferFunction> cascade;
-    if (!preferDirect)
-        cascade = cascadeOf(design);
-    return cascade ? *std::move(cascade) : directFormOf(design);
+    return preferDirect ? directFormOf(design) : sectionsOrBest(design);
 }
 
 } // namespace quordsp::cli

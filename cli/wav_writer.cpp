@@ -129,6 +129,7 @@ void writeWav(const fs::path& path, const WavFormat& format, std::span<const dou
         const WorkingFolder folder(file.temporary().parent_path());
         callLibrary(file.temporary().filename().string(), format, values, rate);
     }
+    endIfInterrupted();
     requireComplete(file, format.fileBytes(samples.size()));
     file.commit();
 }

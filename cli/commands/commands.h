@@ -4,7 +4,7 @@
 #include "command_line.h"
 
 #define QUORDSP_COMMANDS(ROW)                                                                                          \
-    ROW(filter, "Filter a signal: low-pass, high-pass, band-pass or band-stop")                                        \
+    ROW(filter, "A signal through filters: of a band, smoothing, or for its derivative")                               \
     ROW(response, "Magnitude, phase and group delay of a filter")                                                      \
     ROW(spectrum, "Amplitude, power and phase spectrum of a signal, and its strongest line")                           \
     ROW(peaks, "Peaks or valleys of a signal, and how far apart they are")                                             \
@@ -13,7 +13,7 @@
     ROW(vibration, "Acceleration to velocity and displacement")                                                        \
     ROW(thermocouple, "Thermocouple voltages to temperatures")                                                         \
     ROW(wav, "A signal as a WAV file")                                                                                 \
-    ROW(info, "Which analysis backend is in use, or why none was found")
+    ROW(info, "Which analysis backend is in use, or why none was found; fails when this tool lacks an entry")
 
 namespace quordsp::cli::command {
 

@@ -1,7 +1,9 @@
-// quordsp filter: one column through one of the filter designs, or through several to compare them.
+// quordsp filter: one column through one of the filter designs, or through several to compare them; or two columns as a
+// complex signal.
 #include <algorithm>
 #include <iostream>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -9,12 +11,11 @@
 #include "csv_writer.h"
 #include "failure.h"
 #include "filter_choice.h"
+#include "filter_run.h"
 #include "input.h"
 #include "number.h"
 #include "options.h"
-#include "progress.h"
 #include "series_plot.h"
-#include "status.h"
 
 namespace quordsp::cli::command {
 namespace {
@@ -27,66 +28,60 @@ struct Options {
     std::vector<double> view;
 };
 
-struct Filtered {
+// A signal with the words for it.
+struct Named {
     std::string name; // of the column and the curve
-    std::vector<double> samples;
+    std::string unit;
+    const Filtered& parts;
+
+    [[nodiscard]] std::string axis() const { return Label{name, unit}.axis(); }
 };
 
-void requireIirForZeroPhase(const std::vector<ChosenFilter>& filters)
+std::vector<Named> namedResults(const Series& series, const std::vector<ChosenFilter>& filters,
+                                const std::vector<Filtered>& results)
 {
-    for (const ChosenFilter& filter : filters)
-        if (filter.family.coefficients)
-            throw Failure(ExitCode::Usage, "--zero-phase is not for " + std::string(filter.family.name),
-                          "a FIR filter delays every frequency by (taps - 1)/2 samples: shift its output");
+    std::vector<Named> named;
+    for (std::size_t i = 0; i < filters.size(); ++i)
+        named.push_back({filters.size() > 1 ? std::string(filters[i].family.name) : "filtered",
+                         perSeconds(series.label.unit, filters[i].request.derivative), results[i]});
+    return named;
 }
 
-std::vector<double> runOnce(const ChosenFilter& filter, const FilterRequest& request, const std::vector<double>& in)
+std::vector<Curve> curvesOf(const std::string& name, const std::vector<double>& real,
+                            const std::vector<double>& imaginary)
 {
-    std::vector<double> out(in.size());
-    const auto status = [&] {
-        const Progress progress("filtering");
-        return filter.family.run(request, in, out.data());
-    }();
-    check(status, filter.describe() + " at " + rounded(request.rate) + " Hz");
-    return out;
+    if (imaginary.empty())
+        return {{name, real}};
+    return {{name + ", real part", real}, {name + ", imaginary part", imaginary}};
 }
 
-// Forwards and backwards through the sections: the direct form, which the library has an export for, is far from the
-// design when the order is high or the band narrow.
-std::vector<double> runBothWays(const ChosenFilter& filter, const FilterRequest& request, const std::vector<double>& in)
+// Curves of one unit in a panel; parts of a complex signal with those of no other one.
+void addPanels(Plot& plot, const std::vector<Named>& results)
 {
-    std::vector<double> out = runOnce(filter, request, in);
-    std::ranges::reverse(out);
-    out = runOnce(filter, request, out);
-    std::ranges::reverse(out);
-    return out;
-}
-
-std::vector<Filtered> filtered(const Series& series, const std::vector<ChosenFilter>& filters, bool zeroPhase)
-{
-    std::vector<Filtered> results;
-    for (const ChosenFilter& filter : filters) {
-        FilterRequest request = filter.request;
-        request.rate = series.rate;
-        results.push_back({filters.size() > 1 ? std::string(filter.family.name) : "filtered",
-                           (zeroPhase ? runBothWays : runOnce)(filter, request, series.samples)});
+    for (const Named& result : results) {
+        const bool isComplex = !result.parts.imaginary.empty();
+        const std::string label = Label{"filtered", result.unit}.axis();
+        if (isComplex || plot.panels.size() < 2 || plot.panels.back().yLabel != label)
+            plot.panels.push_back({.yLabel = label, .compared = true});
+        for (Curve& curve : curvesOf(result.name, result.parts.real, result.parts.imaginary))
+            plot.panels.back().curves.push_back(std::move(curve));
     }
-    return results;
 }
 
-Plot plotOf(const Series& series, const std::vector<Filtered>& results, const std::vector<ChosenFilter>& filters,
+Plot plotOf(const Series& series, const std::vector<Named>& results, const std::vector<ChosenFilter>& filters,
             const Options& options, const SampleRange& view)
 {
     Plot plot = timePlot(series);
     plot.title = series.label.quantity + ", " + describeBand(filters);
     plot.subtitle = display(options.input.path.filename()) + ", " +
                     (filters.size() > 1 ? "" : filters.front().design + ", ") + rounded(series.rate) + " Hz";
-    plot.panels = {{.yLabel = series.label.axis(), .curves = {{"input", series.samples}}}};
-    if (results.size() > 1)
-        plot.panels.push_back(
-            {.yLabel = "filtered" + series.label.axis().substr(series.label.quantity.size()), .compared = true});
-    for (const Filtered& result : results)
-        plot.panels.back().curves.push_back({result.name, result.samples});
+    plot.panels = {{.yLabel = series.label.axis(),
+                    .curves = curvesOf("input", series.samples, series.imaginary),
+                    .compared = series.isComplex()}};
+    if (results.size() == 1 && !series.isComplex() && results.front().unit == series.label.unit)
+        plot.panels.back().curves.push_back({results.front().name, results.front().parts.real});
+    else
+        addPanels(plot, results);
     show(plot, view);
     return plot;
 }
@@ -98,17 +93,35 @@ SampleRange viewOf(const Series& series, const Options& options)
     return samplesWithin(series, {options.view[0], options.view[1]}, "the two times of --view");
 }
 
-void print(const Series& series, const std::vector<ChosenFilter>& filters)
+void addColumns(std::vector<OutputColumn>& columns, const std::string& name, const std::string& unit,
+                const std::vector<double>& real, const std::vector<double>& imaginary)
+{
+    const bool isComplex = !imaginary.empty();
+    columns.push_back({columnName(isComplex ? name + "_real" : name, unit), [&](std::size_t i) { return real[i]; }});
+    if (isComplex)
+        columns.push_back({columnName(name + "_imaginary", unit), [&](std::size_t i) { return imaginary[i]; }});
+}
+
+std::vector<OutputColumn> columnsOf(const Series& series, const std::vector<Named>& results)
+{
+    std::vector<OutputColumn> columns{{"time_s", [&](std::size_t i) { return series.time(i); }}};
+    addColumns(columns, "input", series.label.unit, series.samples, series.imaginary);
+    for (const Named& result : results)
+        addColumns(columns, result.name, result.unit, result.parts.real, result.parts.imaginary);
+    return columns;
+}
+
+void print(const Series& series, const std::vector<ChosenFilter>& filters, const std::vector<Filtered>& results)
 {
     std::cout << counted(series.samples.size(), "sample") << " of " << printable(series.label.axis()) << " at "
               << rounded(series.rate) << " Hz:";
     for (const ChosenFilter& filter : filters)
         std::cout << (filters.size() > 1 ? "\n  " : " ") << filter.describe();
     std::cout << '\n';
-    for (const ChosenFilter& filter : filters)
-        if (filter.family.coefficients)
-            std::cout << "delay of " << filter.family.name << ": " << rounded((filter.request.taps - 1) / 2.0)
-                      << " samples, " << rounded((filter.request.taps - 1) / 2.0 / series.rate) << " s\n";
+    for (std::size_t i = 0; i < filters.size(); ++i)
+        if (results[i].delay)
+            std::cout << "delay of " << filters[i].family.name << ": " << rounded(*results[i].delay) << " samples, "
+                      << rounded(*results[i].delay / series.rate) << " s\n";
 }
 
 void run(const Options& options)
@@ -119,15 +132,13 @@ void run(const Options& options)
         requireIirForZeroPhase(filters);
     const Series series = readSeries(options.input);
     const SampleRange view = viewOf(series, options);
-    const std::vector<Filtered> results = filtered(series, filters, options.zeroPhase);
-    const std::string& unit = series.label.unit;
-    std::vector<OutputColumn> columns{{"time_s", [&](std::size_t i) { return series.time(i); }},
-                                      {columnName("input", unit), [&](std::size_t i) { return series.samples[i]; }}};
-    for (const Filtered& result : results)
-        columns.push_back({columnName(result.name, unit), [&](std::size_t i) { return result.samples[i]; }});
-    writeResult(options.output, columns, series.samples.size(),
-                [&] { return plotOf(series, results, filters, options, view); });
-    print(series, filters);
+    std::vector<Filtered> results;
+    for (const ChosenFilter& filter : filters)
+        results.push_back(options.zeroPhase ? runBothWays(filter, series) : runOnce(filter, series));
+    const std::vector<Named> named = namedResults(series, filters, results);
+    writeResult(options.output, columnsOf(series, named), series.samples.size(),
+                [&] { return plotOf(series, named, filters, options, view); });
+    print(series, filters, results);
     printWritten(options.output);
 }
 
@@ -137,6 +148,7 @@ void filter(Command& command)
 {
     const auto options = std::make_shared<Options>();
     addInput(command, options->input);
+    addImaginary(command, options->input, "result has two columns");
     addOutput(command, options->output);
     addFilter(command, options->filter);
     command.option("--zero-phase", options->zeroPhase,

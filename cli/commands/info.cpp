@@ -30,7 +30,7 @@ std::vector<Filter> allFilters()
 {
     std::vector<Filter> list;
     for (const FilterFamily& family : filterFamilies())
-        for (int type = 0; type < std::ssize(kResponses); ++type)
+        for (int type = 0; type < std::max(family.responses, 1); ++type)
             list.push_back({family, type});
     return list;
 }
@@ -39,9 +39,16 @@ AnalysisLibErrType tryFilter(const Filter& filter)
 {
     const double in = 1;
     double out = 0;
-    return filter.family.run(
-        {.type = filter.type, .rate = 10, .edges = {1, 2, 3, 4}, .order = 1, .taps = 3, .ripple = 1, .attenuation = 20},
-        {&in, 1}, &out);
+    FilterSignal signal{{&in, 1}, &out};
+    return filter.family.run({.type = filter.type,
+                              .rate = 10,
+                              .edges = {1, 2, 3, 4},
+                              .order = 1,
+                              .taps = 3,
+                              .ripple = 1,
+                              .attenuation = 20,
+                              .bands = {{.from = 1, .to = 2}}},
+                             signal);
 }
 
 AnalysisLibErrType trySpectrum(const SpectrumKind& kind)

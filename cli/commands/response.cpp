@@ -17,14 +17,14 @@
 #include "options.h"
 #include "progress.h"
 #include "response_figures.h"
+#include "response_report.h"
 #include "transfer_function.h"
 
 namespace quordsp::cli::command {
 namespace {
 
 constexpr int kDefaultPoints = 2001;
-constexpr double kPlottedRange = 120;     // dB below the top, unless the stop band goes deeper
-constexpr std::size_t kMostHalfPower = 8; // points to name
+constexpr double kPlottedRange = 120; // dB below the top, unless the stop band goes deeper
 
 struct Options {
     OutputChoice output;
@@ -97,7 +97,7 @@ Curves curvesOf(const FrequencyResponse& response, const Options& options)
 Response responseOf(const ChosenFilter& filter, const Options& options)
 {
     TransferFunction function = designFilter(filter, options.rate, options.form == "direct");
-    const FrequencyResponse response(function.sections);
+    const FrequencyResponse response(function);
     ResponseFigures figures = measureResponse(filter, options.rate, function, response);
     Curves curves = curvesOf(response, options);
     return {filter, std::move(function), std::move(figures), std::move(curves)};
@@ -150,72 +150,6 @@ std::vector<OutputColumn> columnsOf(const std::vector<Response>& responses, cons
     return columns;
 }
 
-std::string structureOf(const TransferFunction& function, const FilterRequest& request)
-{
-    switch (function.form) {
-    case Form::Taps:
-        return "delay " + rounded((request.taps - 1) / 2.0) + " samples";
-    case Form::Cascade:
-        return counted(function.sections.size(), "section");
-    case Form::Direct:
-        return "direct form of degree " + std::to_string(function.sections.front().forward.size() - 1);
-    }
-    return {};
-}
-
-std::string bandsText(const BandFigures& figures)
-{
-    std::string text;
-    for (const auto& [from, to] : figures.bands)
-        text += (text.empty() ? "" : " and ") + rounded(from) + " to " + rounded(to) + " Hz";
-    return text;
-}
-
-std::string halfPowerText(const std::vector<double>& points)
-{
-    std::string text;
-    for (std::size_t i = 0; i < std::min(points.size(), kMostHalfPower); ++i)
-        text += (i == 0 ? "" : ", ") + rounded(points[i], 8) + " Hz";
-    if (points.size() > kMostHalfPower)
-        text += " and " + std::to_string(points.size() - kMostHalfPower) + " more";
-    return text.empty() ? "none" : text;
-}
-
-// Without the digits that are rounding.
-std::string decibels(double value)
-{
-    return rounded(std::round(value * 1e9) / 1e9) + " dB";
-}
-
-void printFigures(const ResponseFigures& figures, const FilterRequest& request)
-{
-    for (std::size_t i = 0; i < figures.edgeGains.size(); ++i)
-        std::cout << "gain at " << rounded(request.edges[i]) << " Hz: " << decibels(figures.edgeGains[i]) << '\n';
-    std::cout << "-3.01 dB at: " << halfPowerText(figures.halfPower) << '\n';
-    if (figures.pass)
-        std::cout << "pass-band ripple: " << decibels(figures.pass->highest - figures.pass->lowest) << ", from "
-                  << decibels(figures.pass->lowest) << " to " << decibels(figures.pass->highest) << ", "
-                  << bandsText(*figures.pass) << '\n';
-    if (figures.stop)
-        std::cout << "stop-band attenuation: " << decibels(-figures.stop->highest) << ", " << bandsText(*figures.stop)
-                  << '\n';
-    if (figures.poles.greatestRadius > 0)
-        std::cout << "greatest pole radius: " << rounded(figures.poles.greatestRadius, 8) << ", "
-                  << rounded(1 - figures.poles.greatestRadius, 3) << " from the unit circle\n";
-}
-
-void print(const Response& response, const Options& options)
-{
-    std::cout << response.filter.describe() << " at " << rounded(options.rate)
-              << " Hz: " << structureOf(response.function, response.filter.request) << '\n';
-    printFigures(response.figures, response.filter.request);
-    if (response.function.form == Form::Direct && options.form != "direct")
-        std::cerr << "quordsp: warning: the backend gives no sections of " << response.filter.family.name
-                  << "; this is the response of the direct form, which is less exact\n";
-    for (const std::string& doubt : doubtsAbout(response.filter, response.figures))
-        std::cerr << "quordsp: warning: " << response.filter.design << ": " << doubt << '\n';
-}
-
 void run(const Options& options)
 {
     if (sameFile(options.output.table, options.output.plot))
@@ -229,7 +163,7 @@ void run(const Options& options)
     writeResult(options.output, columnsOf(responses, options), static_cast<std::size_t>(options.points),
                 [&] { return plotOf(responses, filters, options); });
     for (const Response& response : responses)
-        print(response, options);
+        printReport(response.filter, options.rate, response.function, response.figures);
     printWritten(options.output);
 }
 
@@ -250,8 +184,9 @@ void response(Command& command)
     command.option("--delay", options->delay, "Unit of the group delay").oneOf({"samples", "ms"}).showDefault();
     command
         .option("--form", options->form,
-                "Of an IIR filter: the sections of its cascade coefficients, which filter works with\n"
-                "too, but for bands, where its shorter sections lose less; or the direct form")
+                "Of an IIR filter: the sections of its cascade coefficients, which round more than those\n"
+                "that filter works with; or the direct form. A band too sharp for such sections is\n"
+                "shown as the design, by its low-pass")
         .oneOf({"cascade", "direct"})
         .showDefault();
     command.run([options] { run(*options); });

@@ -7,11 +7,9 @@
 #include <numbers>
 #include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "commands/commands.h"
-#include "failure.h"
 #include "input.h"
 #include "number.h"
 #include "options.h"
@@ -24,43 +22,12 @@ struct Options {
     InputChoice input;
     OutputChoice output;
     Span span;
-    std::string imaginary; // column; empty: the signal is real
     SpectrumChoice choice;
-
-    [[nodiscard]] bool isComplex() const { return !imaginary.empty(); }
 };
 
-struct Signal {
-    Series series; // with the label of the whole signal
-    std::vector<double> imaginary;
-};
-
-void requireSameUnit(const Label& real, const Label& imaginary)
+Spectrum spectrumOf(const Series& series, const SpectrumChoice& choice)
 {
-    if (real.unit != imaginary.unit)
-        throw Failure(ExitCode::Usage,
-                      "the real part is '" + real.axis() + "', the imaginary part '" + imaginary.axis() + "'",
-                      "choose two columns of the same unit");
-}
-
-Signal readSignal(const Options& options)
-{
-    Signal signal{cut(readSeries(options.input), options.span), {}};
-    if (!options.isComplex())
-        return signal;
-    InputChoice choice = options.input;
-    choice.column = options.imaginary;
-    Series imaginary = cut(readSeries(choice), options.span);
-    requireSameUnit(signal.series.label, imaginary.label);
-    signal.series.label.quantity += " + j " + imaginary.label.quantity;
-    signal.imaginary = std::move(imaginary.samples);
-    return signal;
-}
-
-Spectrum spectrumOf(const Signal& signal, const Options& options)
-{
-    return options.isComplex() ? twoSidedSpectrum(signal.series, signal.imaginary, options.choice)
-                               : oneSidedSpectrum(signal.series, options.choice);
+    return series.isComplex() ? twoSidedSpectrum(series, series.imaginary, choice) : oneSidedSpectrum(series, choice);
 }
 
 double spacingOf(const Series& series)
@@ -152,14 +119,13 @@ std::vector<OutputColumn> columnsOf(const Series& series, const Spectrum& spectr
 void run(const Options& options)
 {
     requireDifferentFiles(options.input, options.output);
-    const Signal signal = readSignal(options);
-    const Series& series = signal.series;
-    const Spectrum spectrum = spectrumOf(signal, options);
+    const Series series = cut(readSeries(options.input), options.span);
+    const Spectrum spectrum = spectrumOf(series, options.choice);
     writeResult(options.output, columnsOf(series, spectrum), spectrum.levels.size(),
                 [&] { return plotOf(series, spectrum, options); });
     std::cout << counted(series.samples.size(), "sample") << " of " << printable(series.label.axis()) << " at "
               << rounded(series.rate) << " Hz\n";
-    printLine(spectrum, printable(series.label.unit), options.isComplex());
+    printLine(spectrum, printable(series.label.unit), series.isComplex());
     std::cout << "bin spacing:    " << rounded(spacingOf(series)) << " Hz\n";
     printWritten(options.output);
 }
@@ -171,12 +137,9 @@ void spectrum(Command& command)
     const auto options = std::make_shared<Options>();
     addInput(command, options->input);
     addOutput(command, options->output);
-    command
-        .option("--imaginary", options->imaginary,
-                "Column of the imaginary part; --column is the real part then, and the\n"
-                "spectrum two-sided: as many bins as samples, from negative frequencies to\n"
-                "positive ones, with the amplitude of the exponential in each")
-        .placeholder("NAME|INDEX");
+    addImaginary(command, options->input,
+                 "spectrum two-sided: as many bins as samples, from negative frequencies to\n"
+                 "positive ones, with the amplitude of the exponential in each");
     command.option("--amplitude", options->choice.amplitude, "What a line shows of its sine; DC is its value")
         .oneOf({"rms", "peak"})
         .showDefault()

@@ -77,7 +77,7 @@ done
 # The backend, when it is there and when it is not.
 run 0 info
 backend_is_in "$(basename "$backend")"
-says "filters  32 of 32"
+says "filters  42 of 42"
 says "spectra  3 of 3"
 says "entries  124 of 124"
 program_kept=$program program=$alone path_kept=${WINEPATH:-}
@@ -213,7 +213,7 @@ says "132300 samples of channel 1 (FS) at 44100 Hz"
 only_left "bandpass.csv bandstop.csv bell.csv highpass.csv lowpass.csv"
 
 # Every family in every response, and what each takes. The backend's answer is that of the library's header.
-families=butterworth,bessel,chebyshev,inverse-chebyshev,elliptic,windowed,kaiser,equiripple
+families=butterworth,bessel,chebyshev,inverse-chebyshev,elliptic,windowed,kaiser,equiripple,narrow-band
 values="--order 5 --ripple 0.5 --attenuation 50 --taps 51 --window dolph-chebyshev --param 70 --beta 5"
 for response in "lowpass --cutoff 300 --edges 300 500" "highpass --cutoff 300 --edges 300 500" \
     "bandpass --cutoff 300 900 --edges 300 500 900 1100" "bandstop --cutoff 300 900 --edges 300 500 900 1100"; do
@@ -235,7 +235,38 @@ run 4 response --rate 5000 --family kaiser --taps 0 --beta 1 --response lowpass 
 complains "status -20003"
 run 4 response --rate 5000 --order 0 --response lowpass --cutoff 300 -o g.csv
 complains "status -20021"
+run 1 $filter_x --family kaiser --taps 2000000000 --beta 1 --response lowpass --cutoff 300 -o g.csv
+complains "--taps must be at most 1048576"
 only_left "f.csv r.csv"
+
+# The families that no response selects, and those of bands by interpolation. SciPy 1.10 says: savgol_filter(x, 15, 3,
+# 1, 1/5000) is -6178.895184 at 4 s; remez(51, [0, 100, 150, 500], [1, 0], weight=[1, 10], fs=1000) is within 0.01154
+# of 1; savgol_coeffs(15, 3) reach half power at 71.675 Hz.
+run 0 $filter_x --family savitzky-golay,differentiator,hilbert,multiband --order 3 --side 7 --derivative 1 --taps 30 \
+    --bands 50:2000 -o f.csv --plot f.svg
+[ "$(head -n 1 f.csv)" = "time_s,input_g,savitzky-golay_g/s,differentiator_g/s,hilbert_g,multiband_g" ] ||
+    fail "$what: the names of the columns"
+says "  derivative, savitzky-golay of order 3 over 15 samples"
+says "delay of hilbert: 14.5 samples, 0.0029 s"
+grep -qE '^4,[^,]*,-6178\.895184[0-9]*,' f.csv || fail "$what: the derivative at 4 s"
+run 0 response --rate 1000 --family multiband,savitzky-golay --taps 51 --bands 0:100,150:500:0:10 --order 3 --side 7 \
+    -o r.csv --plot r.svg
+says "gain from 0 to 100 Hz: within 0.01154"
+says "gain from 150 to 500 Hz: within 0.001154"
+says "ripple reached, by the design: 0.01154"
+says "-3.01 dB at: 71.67"
+[ ! -s ../stderr ] || fail "$what: a warning"
+run 0 response --rate 1000 --family wideband --response lowpass --edges 480 490 --ripple 0.1 --attenuation 60 -o r.csv
+says "wideband, ripple 0.1 dB, attenuation 60 dB at 1000 Hz: model of "
+says ", 0 to 480 Hz"
+run 0 $filter_x --imaginary y_g $bandpass -o c.csv --plot c.svg
+[ "$(head -n 1 c.csv)" = "time_s,input_real_g,input_imaginary_g,filtered_real_g,filtered_imaginary_g" ] ||
+    fail "$what: the names of the columns"
+run 1 $filter_x --family hilbert --taps 31 --bands 50 -o g.csv
+complains "--bands: '50' is not a band"
+run 1 $filter_x --family savitzky-golay --order 3 --side 20000 -o g.csv
+complains "less than the frame of 40001"
+only_left "c.csv c.svg f.csv f.svg r.csv r.svg"
 
 # Several families at once, a part of the plot, and no phase: the line at 100 Hz lies where it was.
 run 0 $filter_x --family butterworth,elliptic,kaiser --order 4 --ripple 1 --attenuation 60 --taps 101 --beta 5 \
@@ -279,6 +310,13 @@ run 0 response --rate 5000 --order 8 --response bandpass --cutoff 90 110 -o r.cs
 run 0 response --rate 5000 --order 8 --response bandpass --cutoff 90 110 --form direct -o r.csv
 says "direct form of degree 16"
 complains "warning: butterworth of order 8: "
+# A band too sharp for the backend's sections: SciPy's butter(8, [99.999, 100.001], fs=5000) has its poles at 2.45e-7.
+run 0 response --rate 5000 --order 8 --response bandpass --cutoff 99.999 100.001 -o r.csv
+says "no sections, the design by its low-pass"
+says "-3.01 dB at: 99.999 Hz, 100.001 Hz"
+says "2.45e-07 from the unit circle"
+complains "warning: the backend gives no sections of butterworth: "
+complains "(status -20031)"
 run 1 response --rate 5000 --order 8 --response lowpass --cutoff 90 --from 100 --to 90 -o g.csv
 complains "half the rate is 2500 Hz"
 run 1 response --order 8 --response lowpass --cutoff 90 -o g.csv
@@ -571,6 +609,20 @@ if [ -z "$emulator" ]; then
     (trap '' XFSZ && ulimit -f 64 && "$program" wav "$bell" -o y.wav) >../stdout 2>../stderr
     [ $? -eq 5 ] || fail "$what: the exit code"
     complains "cannot write y.wav"
+    only_left ""
+    # Interrupted as soon as there is a file to write to.
+    what="response, interrupted"
+    "$program" response --rate 1000 --order 1 --response lowpass --cutoff 9 --points 1000000 -o i.csv \
+        >../stdout 2>../stderr &
+    waits=0
+    while [ -z "$(ls -A)" ] && [ $waits -lt 400 ]; do
+        sleep 0.05
+        waits=$((waits + 1))
+    done
+    kill -TERM $!
+    { wait $!; } 2>../stdout
+    [ $? -eq 143 ] || fail "$what: the exit code"
+    complains "interrupted, nothing is written"
     only_left ""
 fi
 

@@ -1,5 +1,7 @@
 #include "file.h"
 
+#include <csignal>
+
 #include <gmock/gmock.h>
 
 #include "failure_of.h"
@@ -147,6 +149,22 @@ TEST(PendingFile, NamesItsTargetAndTheReasonWhenItCannotBeCreated)
     const Failure failure = failureOf([&] { static_cast<void>(PendingFile(folder / "none/f.wav").create()); });
     EXPECT_EQ(failure.code(), ExitCode::Output);
     EXPECT_THAT(failure.what(), HasSubstr("f.wav: No such file or directory"));
+}
+
+TEST(OutputFile, LeavesNothingBehindWhenTheRunIsInterrupted)
+{
+    const ScratchFolder folder;
+    for (const int signal : {SIGINT, SIGTERM}) {
+        {
+            OutputFile file(folder / "out");
+            OutputFile other(folder / "other");
+            file.write("half of it");
+            EXPECT_EQ(std::raise(signal), 0);
+            EXPECT_THROW(other.write("the rest"), Interrupted);
+        }
+        EXPECT_EQ(folder.fileCount(), 0);
+        EXPECT_EQ(std::signal(signal, SIG_DFL), SIG_DFL); // as it was
+    }
 }
 
 TEST(PendingFile, GivesItsTargetWhatAnotherHasWritten)

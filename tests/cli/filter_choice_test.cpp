@@ -6,6 +6,7 @@
 #include <gmock/gmock.h>
 
 #include "failure_of.h"
+#include "filter_window.h"
 
 namespace quordsp::cli {
 namespace {
@@ -44,7 +45,8 @@ TEST(FilterChoice, NamesWhatAFamilyDoesNotTake)
     choice.order = 4;
     choice.ripple = 1;
     EXPECT_EQ(complaint(choice), "--ripple is not for butterworth");
-    EXPECT_EQ(failureOf([&] { chosenFilters(choice); }).advice(), "it is for chebyshev, elliptic");
+    EXPECT_EQ(failureOf([&] { chosenFilters(choice); }).advice(),
+              "it is for chebyshev, elliptic, narrow-band, wideband");
     choice.ripple.reset();
     choice.taps = 5;
     EXPECT_EQ(complaint(choice), "--taps is not for butterworth");
@@ -116,6 +118,64 @@ TEST(FilterChoice, DescribesTheBand)
     EXPECT_EQ(filters[1].describe(), "bandpass 80/90 to 110/120 Hz, equiripple with 31 taps");
     EXPECT_EQ(describeBand(filters), "bandpass");
     EXPECT_EQ(describeBand({filters[0]}), "bandpass 90 to 110 Hz");
+}
+
+TEST(FilterChoice, TakesAResponseForFamiliesThatHaveIt)
+{
+    FilterChoice choice{.families = {"butterworth"}, .order = 2, .cutoff = {100}};
+    EXPECT_EQ(complaint(choice), "butterworth needs --response");
+    choice = {.families = {"hilbert"}, .response = "lowpass", .taps = 21, .bands = {"50:450"}};
+    EXPECT_EQ(complaint(choice), "--response is not for hilbert");
+    choice = {.families = {"wideband"}, .response = "bandpass", .edges = {1, 2, 3, 4}, .ripple = 1, .attenuation = 50};
+    EXPECT_EQ(complaint(choice), "wideband has no response bandpass");
+    choice.families = {"narrow-band"};
+    EXPECT_EQ(chosenFilters(choice)[0].describe(),
+              "bandpass 1/2 to 3/4 Hz, narrow-band, ripple 1 dB, attenuation 50 dB");
+}
+
+TEST(FilterChoice, SaysWhatAFamilyWithoutResponsesIsFor)
+{
+    FilterChoice choice{.families = {"savitzky-golay", "differentiator", "multiband"},
+                        .order = 3,
+                        .taps = 30,
+                        .bands = {"0:100:0.5", "150:200:0:10"},
+                        .side = 7};
+    auto filters = chosenFilters(choice);
+    EXPECT_EQ(filters[0].describe(), "smoothing, savitzky-golay of order 3 over 15 samples");
+    EXPECT_EQ(filters[1].describe(),
+              "derivative 0 to 100 Hz by 0.5, 150 to 200 Hz by 0 with weight 10, differentiator with 30 taps");
+    EXPECT_EQ(describeBand(filters), "3 filters");
+    choice.derivative = 2;
+    filters = chosenFilters(choice);
+    EXPECT_EQ(filters[0].band, "derivative 2");
+    EXPECT_EQ(filters[1].request.derivative, 1);
+    EXPECT_EQ(filters[2].request.derivative, 0);
+    EXPECT_EQ(filters[2].request.bands.size(), 2u);
+}
+
+TEST(FilterChoice, WantsAWeightForEachSampleOfTheFrameAndADerivativeThatThereIs)
+{
+    FilterChoice choice{.families = {"savitzky-golay"}, .order = 2, .side = 2, .weights = {1, 2, 3}};
+    EXPECT_EQ(complaint(choice), "there are 3 --weights");
+    EXPECT_THAT(failureOf([&] { chosenFilters(choice); }).advice(), HasSubstr("give 5"));
+    choice.weights = {1, 2, 3, 2, 1};
+    EXPECT_EQ(chosenFilters(choice)[0].design, "savitzky-golay of order 2 over 5 samples, weighted");
+    for (const int derivative : {-1, 3}) {
+        choice.derivative = derivative;
+        EXPECT_EQ(complaint(choice), "--derivative must be from 0 to the --order");
+    }
+}
+
+TEST(FilterChoice, RefusesWhatWouldTakeAllMemory)
+{
+    FilterChoice choice = choiceOf("kaiser");
+    choice.beta = 3;
+    choice.taps = 2000000000;
+    EXPECT_EQ(complaint(choice), "--taps must be at most 1048576");
+    choice = {.families = {"savitzky-golay"}, .order = 2, .side = 5001, .derivative = 1};
+    EXPECT_EQ(complaint(choice), "--side with --derivative must be at most 5000");
+    choice.derivative = 0;
+    EXPECT_EQ(chosenFilters(choice)[0].request.frame(), 10003);
 }
 
 TEST(FilterDesigns, HaveEachWindowOfTheTableOnce)

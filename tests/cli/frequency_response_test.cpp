@@ -101,9 +101,9 @@ TEST(FrequencyResponse, IsASumOverManySectionsThatWouldOverflowAsAProduct)
 TEST(Poles, HaveTheirGreatestRadius)
 {
     const std::vector<Section> sections{{{1}, {1, -0.5}}, {{1}, {1, 0, 0.81}}, {{1}, {1, 0, 0}}};
-    EXPECT_NEAR(polesOf(sections).greatestRadius, 0.9, 1e-15);
+    EXPECT_NEAR(polesOf({Form::Cascade, sections}).greatestRadius, 0.9, 1e-15);
     const std::vector<Section> taps{{{1, 2, 1}, {1}}};
-    EXPECT_EQ(polesOf(taps).greatestRadius, 0);
+    EXPECT_EQ(polesOf({Form::Taps, taps}).greatestRadius, 0);
 }
 
 // A real pole alone at 1 - d moves by half a unit in the last place of its coefficient, at most: 2^-53/d of the
@@ -112,7 +112,7 @@ TEST(Poles, MoveByTheRoundingOfTheCoefficients)
 {
     for (const double d : {1e-3, 1e-9, 1e-14}) {
         const std::vector<Section> sections{{{d}, {1, d - 1}}};
-        EXPECT_NEAR(polesOf(sections).shift, 0x1p-53 / d, 0.02 * 0x1p-53 / d);
+        EXPECT_NEAR(polesOf({Form::Cascade, sections}).shift, 0x1p-53 / d, 0.02 * 0x1p-53 / d);
     }
 }
 

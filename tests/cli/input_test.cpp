@@ -132,6 +132,21 @@ TEST_F(Input, ReadsAFileWithTheEndingWavAsWav)
                 HasSubstr("not a RIFF/WAVE file"));
 }
 
+TEST_F(Input, ReadsTwoColumnsAsTheSignalOfTheirComplexValues)
+{
+    const std::filesystem::path file = folder.put("f.csv", "t,i_V,q_V,r_g\n0,1,2,3\n0.5,4,5,6\n1,7,8,9\n");
+    const Series series = cut(readSeries({.path = file, .column = "i_V", .imaginary = "3"}), {.from = 0.5});
+    EXPECT_EQ(series.label.axis(), "i + j q (V)");
+    EXPECT_EQ(series.rate, 2);
+    EXPECT_TRUE(series.isComplex());
+    EXPECT_THAT(series.samples, ElementsAre(4, 7));
+    EXPECT_THAT(series.imaginary, ElementsAre(5, 8));
+    EXPECT_THAT(messageOf([&] { readSeries({.path = file, .column = "", .imaginary = "r_g"}); }),
+                "the real part is 'i (V)', the imaginary part 'r (g)'");
+    EXPECT_THAT(messageOf([&] { readSeries({.path = file, .column = "", .imaginary = "x"}); }),
+                HasSubstr("there is no column 'x'"));
+}
+
 Series tenSeconds()
 {
     Series series;

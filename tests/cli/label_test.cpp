@@ -65,6 +65,17 @@ TEST(Label, PutsAUnitOfSeveralPartsInBracketsBeforeItIsSquared)
     EXPECT_EQ(squared(""), "");
 }
 
+TEST(Label, DividesAUnitBySeconds)
+{
+    EXPECT_EQ(perSeconds("g", 0), "g");
+    EXPECT_EQ(perSeconds("g", 1), "g/s");
+    EXPECT_EQ(perSeconds("g", 2), "g/s2");
+    EXPECT_EQ(perSeconds("m/s", 1), "m/s2");
+    EXPECT_EQ(perSeconds("m/s2", 3), "m/s5");
+    EXPECT_EQ(perSeconds("", 1), "1/s");
+    EXPECT_EQ(perSeconds("m/sx", 1), "m/sx/s");
+}
+
 TEST(Label, ShowsNoControlCharacters)
 {
     EXPECT_EQ(printable("a\x1B[2J\r\x7F\n\xC3\xA4"), "a?[2J???\xC3\xA4");

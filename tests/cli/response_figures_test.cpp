@@ -102,6 +102,33 @@ TEST(ResponseFigures, TakeTheBandsOfAnEquirippleFilterFromItsEdges)
     EXPECT_NEAR(figures.stop->highest, gain(0.4), 1e-12);
 }
 
+// By hand: the gain of {1/4, 1/2, 1/4} is cos^2(pi f), that of {1, 0, -1} 2 sin(2 pi f).
+TEST(ResponseFigures, MeasureTheDeviationInEachBand)
+{
+    const ChosenFilter bands = filterOf("multiband", {.taps = 3, .bands = {{0, 100}, {400, 500, 0, 5}}});
+    const TransferFunction mean{Form::Taps, {{{0.25, 0.5, 0.25}, {1}}}, {.taps = {0.25, 0.5, 0.25}, .ripple = 0.48}};
+    const ResponseFigures figures = measureResponse(bands, kRate, mean, FrequencyResponse(mean));
+    const auto gain = [](double f) { return std::pow(std::cos(std::numbers::pi * f), 2); };
+    ASSERT_EQ(figures.deviations.size(), 2u);
+    EXPECT_NEAR(figures.deviations[0].deviation, 1 - gain(0.1), 1e-12);
+    EXPECT_NEAR(figures.deviations[1].deviation, gain(0.4), 1e-12);
+    EXPECT_EQ(figures.ripple, 0.48);
+    EXPECT_THAT(doubtsAbout(bands, figures), IsEmpty()); // 5 cos^2(0.4 pi) is 0.477
+    const ChosenFilter heavier = filterOf("multiband", {.taps = 3, .bands = {{0, 100}, {400, 500, 0, 10}}});
+    EXPECT_THAT(doubtsAbout(heavier, measureResponse(heavier, kRate, mean, FrequencyResponse(mean))),
+                ElementsAre("the weighted deviation from 400 to 500 Hz is 0.954915 instead of 0.48"));
+}
+
+TEST(ResponseFigures, MeasureTheDeviationOfADerivativeRelativeToItsGain)
+{
+    const ChosenFilter filter = filterOf("differentiator", {.taps = 3, .bands = {{0, 100}}, .derivative = 1});
+    const TransferFunction slope{Form::Taps, {{{500, 0, -500}, {1}}}, {.taps = {500, 0, -500}, .ripple = 0.065}};
+    const ResponseFigures figures = measureResponse(filter, kRate, slope, FrequencyResponse(slope));
+    const double wanted = 2 * std::numbers::pi * 100;
+    EXPECT_NEAR(figures.deviations[0].deviation, 1 - kRate * std::sin(2 * std::numbers::pi * 0.1) / wanted, 1e-12);
+    EXPECT_THAT(doubtsAbout(filter, figures), IsEmpty());
+}
+
 TEST(ResponseFigures, DoubtWhatIsNotAsItWasAskedFor)
 {
     const ChosenFilter butterworth = filterOf("butterworth", {.edges = {101}, .order = 2});

@@ -1,0 +1,51 @@
+#include "band_map.h"
+
+#include <cmath>
+#include <numbers>
+
+namespace quordsp::cli {
+namespace {
+
+using Complex = std::complex<double>;
+
+constexpr double kPi = std::numbers::pi;
+
+} // namespace
+
+// A difference of tangents, without cancellation.
+BandMap::BandMap(double lower, double upper, bool stops)
+    : width_(std::sin(kPi * (upper - lower)) / (std::cos(kPi * lower) * std::cos(kPi * upper))),
+      middle_(std::sqrt(std::tan(kPi * lower) * std::tan(kPi * upper))),
+      stops_(stops)
+{}
+
+// With t = tan(pi f), the low-pass's tangent is (t^2 - m^2)/(w t) for a band-pass, and minus its inverse for a
+// band-stop.
+BandMap::Place BandMap::placeOf(double frequency) const
+{
+    const double sine = std::sin(kPi * frequency);
+    const double cosine = frequency < 0.5 ? std::cos(kPi * frequency) : 0;
+    const double above = (sine - middle_ * cosine) * (sine + middle_ * cosine);
+    const double across = width_ * sine * cosine;
+    const double slope =
+        width_ * (sine * sine + middle_ * middle_ * cosine * cosine) / (across * across + above * above);
+    if (!stops_)
+        return {std::atan2(above, across) / kPi, slope, false};
+    const double turned = std::atan2(across, -above) / kPi;
+    return {above < 0 ? turned : turned - 1, slope, above >= 0};
+}
+
+std::vector<double> BandMap::distancesOf(Complex pole) const
+{
+    const Complex analog = (pole - 1.0) / (pole + 1.0);
+    const Complex half = width_ / 2 * (stops_ ? 1.0 / analog : analog);
+    const Complex root = std::sqrt(half * half - middle_ * middle_);
+    std::vector<double> distances;
+    for (const Complex s : {half + root, half - root}) {
+        const double power = -4 * s.real() / std::norm(1.0 - s); // 1 - |z|^2
+        distances.push_back(power / (1 + std::sqrt(1 - power)));
+    }
+    return distances;
+}
+
+} // namespace quordsp::cli
