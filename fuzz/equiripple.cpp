@@ -1,6 +1,7 @@
 #include <numbers>
 
 #include "QuorDSP_DAQ.h"
+#include "nianlys.h"
 #include "targets.h"
 
 namespace quordsp::fuzz {
@@ -57,13 +58,58 @@ void requireRipple(const Design& design, const std::vector<double>& h, double ri
         }
 }
 
-void requireResult(const Design& design)
+struct Result {
+    int status;
+    std::vector<double> h;
+    double ripple = kBefore;
+};
+
+using fuzz::areSame;
+
+bool areSame(const Result& a, const Result& b)
+{
+    return areSame(a.h, b.h) && isSame(a.ripple, b.ripple);
+}
+
+// The entry that takes a band as a record, from type 0 on.
+Result byRecords(const Design& design, std::size_t size)
+{
+    std::vector<backend::Band> bands;
+    for (std::size_t i = 0; i < design.amplitudes.size(); ++i)
+        bands.push_back({design.amplitudes[i], design.edges[2 * i], design.edges[2 * i + 1], design.weights[i]});
+    Result result{0, std::vector<double>(size, kBefore)};
+    const int type = design.type > 0 ? design.type - 1 : -1;
+    result.status = static_cast<int>(backend::AALFunc408(design.taps, design.fs, bands.data(), design.bands(), type,
+                                                         result.h.data(), &result.ripple));
+    return result;
+}
+
+// The export that takes four arrays and makes room for a band a tap; its status tells nothing.
+Result byArrays(Design design, std::size_t size)
+{
+    std::vector<double> lower, upper;
+    for (std::size_t i = 0; i < design.amplitudes.size(); ++i) {
+        lower.push_back(design.edges[2 * i]);
+        upper.push_back(design.edges[2 * i + 1]);
+    }
+    Result result{0, std::vector<double>(size, kBefore)};
+    const int type = design.type > 0 ? design.type - 1 : -1;
+    result.status =
+        QuorDSP_Parks_McClellanCoef(design.taps, design.fs, design.amplitudes.data(), lower.data(), upper.data(),
+                                    design.weights.data(), design.bands(), type, result.h.data(), &result.ripple);
+    return result;
+}
+
+void requireResult(const Design& design, bool isExported)
 {
     const std::size_t size = static_cast<std::size_t>(design.taps > 0 && design.taps <= 64 ? design.taps : 64);
-    std::vector<double> h(size, kBefore);
-    double ripple = kBefore;
-    const int status = QuorDSP_Equi_Ripple(design.bands(), design.amplitudes.data(), design.weights.data(), design.fs,
-                                           design.edges.data(), design.type, design.taps, h.data(), &ripple);
+    Result result{0, std::vector<double>(size, kBefore)};
+    auto& [status, h, ripple] = result;
+    status = QuorDSP_Equi_Ripple(design.bands(), design.amplitudes.data(), design.weights.data(), design.fs,
+                                 design.edges.data(), design.type, design.taps, h.data(), &ripple);
+    const Result other = isExported ? byArrays(design, size) : byRecords(design, size);
+    require(areSame(other, result), "the same from other arrays");
+    require(other.status == (isExported ? QUORDSP_BAD_ARGUMENT : status), "the same status from records");
     requireDocumented(status);
     if (status != 0) {
         require(h == std::vector<double>(size, kBefore) && ripple == kBefore, "a refused design writes nothing");
@@ -97,7 +143,7 @@ void equiripple(Bytes bytes)
     }
     if (!isOrdinary)
         design.fs = bytes.number();
-    requireResult(design);
+    requireResult(design, design.taps <= 4096 && bytes.byte() % 2 > 0);
 }
 
 } // namespace quordsp::fuzz

@@ -1,20 +1,19 @@
-#include "QuorDSP_DAQ.h"
-#include "targets.h"
-
 #include <algorithm>
 #include <numeric>
 
+#include "one_call.h"
+#include "targets.h"
+
 namespace quordsp::fuzz {
 namespace {
-
-using Samples = std::vector<double>;
 
 struct Fit {
     int order, side;
     Samples weights; // empty: none
 
     const double* weightsOrNull() const { return weights.empty() ? nullptr : weights.data(); }
-    int frame() const { return 2 * side + 1; }
+    std::int64_t frame() const { return 2 * std::int64_t{side} + 1; }
+    bool isHuge() const { return order > 20 || side > 20 || order < -1 || side < -1; }
 };
 
 // In the documented order; but weights may be so far apart that none of this shows it.
@@ -26,6 +25,9 @@ int expectedStatus(const Fit& fit)
         return QUORDSP_ERR_COUNT_NEGATIVE;
     if (fit.frame() <= fit.order)
         return QUORDSP_ERR_TOO_FEW_POINTS;
+    const auto work = std::pow(static_cast<double>(fit.order) + 1, 2) * static_cast<double>(fit.frame());
+    if (work > 4294967296)
+        return QUORDSP_ERR_OUT_OF_MEMORY;
     const auto isWeight = [](double weight) { return std::isfinite(weight) && weight >= 0; };
     const auto positive =
         std::count_if(fit.weights.begin(), fit.weights.end(), [](double weight) { return weight > 0; });
@@ -46,46 +48,73 @@ void requireRowsOfSumOne(const Fit& fit, const Samples& filters)
     }
 }
 
-int design(const Fit& fit)
+// The derivative of order 0 is the value: the middle row of the matrix.
+void requireFirstRow(const Fit& fit, const Samples& filters, const Samples& diffFilters)
 {
-    const auto frame = static_cast<std::size_t>(std::max(fit.frame(), 1));
-    const Samples before(frame * frame, -7.0);
-    Samples filters = before, diffFilters(frame * static_cast<std::size_t>(std::max(fit.order, 0) + 1), -7.0);
-    const int status =
-        QuorDSP_SavitzkyGolayCoef(fit.order, fit.side, fit.weightsOrNull(), 1, filters.data(), diffFilters.data());
+    const auto frame = static_cast<std::size_t>(fit.frame());
+    const double* const middle = filters.data() + static_cast<std::size_t>(fit.side) * frame;
+    for (std::size_t m = 0; m < frame; ++m)
+        require(std::abs(diffFilters[m] - middle[m]) <= 1e-5 * (1 + std::abs(middle[m])), "the value at the middle");
+}
+
+int coefficients(const Fit& fit, bool isExported, Samples& filters, double* diffFilters)
+{
+    const int withDiffs = diffFilters ? 1 : 0;
+    return isExported ? QuorDSP_SavitzkyGolayCoef(fit.order, fit.side, fit.weightsOrNull(), withDiffs, filters.data(),
+                                                  diffFilters)
+                      : static_cast<int>(backend::AALFunc355(fit.order, fit.side, fit.weightsOrNull(), withDiffs,
+                                                             filters.data(), diffFilters));
+}
+
+int design(const Fit& fit, bool isExported)
+{
     const int expected = expectedStatus(fit);
+    if (fit.isHuge() && expected == QUORDSP_SUCCESS)
+        return expected; // no memory has room for the matrix
+    const auto frame = static_cast<std::size_t>(fit.isHuge() ? 1 : std::max(fit.frame(), std::int64_t{1}));
+    const Samples before(frame * frame, -7.0);
+    Samples filters = before, same = before;
+    Samples diffFilters(frame * static_cast<std::size_t>(fit.isHuge() ? 1 : std::max(fit.order, 0) + 1), -7.0);
+    const int status = coefficients(fit, isExported, filters, diffFilters.data());
     require(status == expected || (expected == 0 && status == QUORDSP_ERR_SINGULAR && !fit.weights.empty()),
             "the documented status");
-    if (status == QUORDSP_SUCCESS)
+    require(coefficients(fit, isExported, same, nullptr) == status && areSame(same, filters), "the same without rows");
+    if (status == QUORDSP_SUCCESS) {
         requireRowsOfSumOne(fit, filters);
-    else
-        require(filters == before, "nothing written on failure");
+        requireFirstRow(fit, filters, diffFilters);
+    } else {
+        require(filters == before && diffFilters[0] == -7, "nothing written on failure");
+    }
     return status;
+}
+
+Fit readFit(Bytes& bytes)
+{
+    Fit fit{bytes.mostlyBetween(-1, 14), bytes.mostlyBetween(-1, 9), {}};
+    if (bytes.byte() % 2 == 0 && !fit.isHuge())
+        fit.weights = bytes.numbers(std::max(static_cast<int>(fit.frame()), 1));
+    return fit;
 }
 
 } // namespace
 
-// The documented status; a matrix that leaves a constant as it is; and the same in place as elsewhere.
+// The documented status; a matrix that leaves a constant as it is; and the filter in all of its forms.
 void savitzky_golay(Bytes bytes)
 {
-    Fit fit{bytes.between(-1, 14), bytes.between(-1, 9), {}};
-    if (bytes.byte() % 2 == 0)
-        fit.weights = bytes.numbers(std::max(fit.frame(), 1));
-    const Samples x = bytes.numbers(bytes.between(1, 60));
-    const int designed = design(fit);
-
-    Samples y(x.size(), -7.0), inPlace = x;
-    const int status =
-        QuorDSP_SavitzkyGolayFiltering(x.data(), sizeOf(x), fit.order, fit.side, fit.weightsOrNull(), y.data());
-    require(status == designed || (status == QUORDSP_ERR_ARRAY_SIZE && sizeOf(x) < fit.frame()),
-            "the status of the design");
-    require(QuorDSP_SavitzkyGolayFiltering(inPlace.data(), sizeOf(x), fit.order, fit.side, fit.weightsOrNull(),
-                                           inPlace.data()) == status,
-            "the same status in place");
-    if (status == QUORDSP_SUCCESS)
-        require(areSame(inPlace, y), "the same in place");
+    const Fit fit = readFit(bytes);
+    const int n = bytes.between(0, 60);
+    const Signal x{bytes.numbers(n), bytes.numbers(n)};
+    const int designed = design(fit, bytes.byte() % 2 > 0);
+    const OneCallFilter filter = oneCall(backend::AALFunc356, backend::AALFunc357, QuorDSP_SavitzkyGolayFiltering,
+                                         QuorDSP_SavitzkyGolayFiltering_CxInput, AfterFailure::Anything, fit.order,
+                                         fit.side, fit.weightsOrNull());
+    const int status = requireOneOutcome(filter, x).status;
+    if (n == 0)
+        require(status == QUORDSP_ERR_COUNT_NOT_POSITIVE, "no samples");
+    else if (designed == QUORDSP_SUCCESS && n < fit.frame())
+        require(status == QUORDSP_ERR_ARRAY_SIZE, "too few samples");
     else
-        require(areSame(inPlace, x) && y == Samples(x.size(), -7.0), "nothing written on failure");
+        require(status == designed || n < fit.frame(), "the status of the design");
 }
 
 } // namespace quordsp::fuzz
