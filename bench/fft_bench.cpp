@@ -1,5 +1,6 @@
 // Transforms through the backend's entries beside FFTW, whose plans are made beforehand and whose arrays are its own.
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 #include <benchmark/benchmark.h>
@@ -74,49 +75,61 @@ void realFft(benchmark::State& state)
         backend::AALFunc147(re.data(), im.data(), state.range(0));
 }
 
+std::size_t elements(const benchmark::State& state)
+{
+    return static_cast<std::size_t>(state.range(0) * state.range(1));
+}
+
 void matrixFftw(benchmark::State& state)
 {
-    const int n = static_cast<int>(state.range(0));
-    FftwArray in{countOf(state) * countOf(state)}, out{countOf(state) * countOf(state)};
-    run(state, fftw_plan_dft_2d(n, n, in.complex(), out.complex(), FFTW_FORWARD, FFTW_MEASURE), in,
-        countOf(state) * countOf(state));
+    const int rows = static_cast<int>(state.range(0)), columns = static_cast<int>(state.range(1));
+    FftwArray in{elements(state)}, out{elements(state)};
+    run(state, fftw_plan_dft_2d(rows, columns, in.complex(), out.complex(), FFTW_FORWARD, FFTW_MEASURE), in,
+        elements(state));
 }
 
 void matrixFft(benchmark::State& state)
 {
-    const std::vector<backend::Complex> in(countOf(state) * countOf(state));
+    const std::vector<backend::Complex> in(elements(state));
     std::vector<backend::Complex> out(in.size());
     for (auto _ : state)
-        backend::AALFunc267(in.data(), state.range(0), state.range(0), 0, 0, 0, out.data());
+        backend::AALFunc267(in.data(), state.range(0), state.range(1), 0, 0, 0, out.data());
 }
 
 void realMatrixFftw(benchmark::State& state)
 {
-    const int n = static_cast<int>(state.range(0));
-    FftwArray in{countOf(state) * countOf(state)}, out{countOf(state) * countOf(state)};
-    run(state, fftw_plan_dft_r2c_2d(n, n, in.real(), out.complex(), FFTW_MEASURE), in, countOf(state) * countOf(state));
+    const int rows = static_cast<int>(state.range(0)), columns = static_cast<int>(state.range(1));
+    FftwArray in{elements(state)}, out{elements(state)};
+    run(state, fftw_plan_dft_r2c_2d(rows, columns, in.real(), out.complex(), FFTW_MEASURE), in, elements(state));
 }
 
 void realMatrixFft(benchmark::State& state)
 {
-    const std::vector<double> in(countOf(state) * countOf(state));
+    const std::vector<double> in(elements(state));
     std::vector<backend::Complex> out(in.size());
     for (auto _ : state)
-        backend::AALFunc266(in.data(), state.range(0), state.range(0), 0, 0, 0, out.data());
+        backend::AALFunc266(in.data(), state.range(0), state.range(1), 0, 0, 0, out.data());
 }
 
 void sizes(benchmark::internal::Benchmark* bench)
 {
-    for (const int n : {16, 64, 256, 1000, 1009, 1024, 2187, 4096, 10'000, 16'384, 65'536, 100'000, 100'003, 1 << 20})
+    for (const int n :
+         {16, 64, 256, 1000, 1009, 1024, 2187, 4096, 10'000, 15'625, 16'384, 65'536, 100'000, 100'003, 1 << 20})
         bench->Arg(n);
+}
+
+void matrices(benchmark::internal::Benchmark* bench)
+{
+    for (const auto& [rows, columns] : {std::pair{64, 64}, {250, 250}, {1024, 1024}, {3, 4096}, {4096, 3}, {1, 65'536}})
+        bench->Args({rows, columns});
 }
 BENCHMARK(complexFftw)->Apply(sizes);
 BENCHMARK(complexFft)->Apply(sizes);
 BENCHMARK(realFftw)->Apply(sizes);
 BENCHMARK(realFft)->Apply(sizes);
-BENCHMARK(matrixFftw)->Arg(64)->Arg(250)->Arg(1024);
-BENCHMARK(matrixFft)->Arg(64)->Arg(250)->Arg(1024);
-BENCHMARK(realMatrixFftw)->Arg(64)->Arg(250)->Arg(1024);
-BENCHMARK(realMatrixFft)->Arg(64)->Arg(250)->Arg(1024);
+BENCHMARK(matrixFftw)->Apply(matrices);
+BENCHMARK(matrixFft)->Apply(matrices);
+BENCHMARK(realMatrixFftw)->Apply(matrices);
+BENCHMARK(realMatrixFft)->Apply(matrices);
 
 } // namespace

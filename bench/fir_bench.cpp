@@ -1,6 +1,7 @@
 // FIR filtering of a million samples: direct sums and, where they pay, Fourier transforms, beside overlap-save on
-// FFTW's plans and a plain loop. Argument: taps.
+// FFTW's plans and a plain loop. Argument: taps, or the points of local fits. Tails ought to take no longer than noise.
 #include <bit>
+#include <cmath>
 #include <vector>
 
 #include <benchmark/benchmark.h>
@@ -64,14 +65,6 @@ void directSumsOfComplex(benchmark::State& state)
 }
 BENCHMARK(directSumsOfComplex)->Apply(counts);
 
-void designAndFilter(benchmark::State& state)
-{
-    run(state, noise(kCount), [](const auto& x, const auto& h, auto& y) {
-        AALFunc481(x.data(), kCount, static_cast<int>(h.size()), 1, 0.1, 2, 0, y.data());
-    });
-}
-BENCHMARK(designAndFilter)->Apply(counts)->Arg(16384);
-
 // All below the normal numbers.
 void directSumsOfATail(benchmark::State& state)
 {
@@ -80,6 +73,33 @@ void directSumsOfATail(benchmark::State& state)
     });
 }
 BENCHMARK(directSumsOfATail)->Apply(counts);
+
+// Through all magnitudes down to 0.
+std::vector<double> decay()
+{
+    std::vector<double> samples = noise(kCount);
+    for (std::size_t i = 0; i < kCount; ++i)
+        samples[i] *= std::exp(-750.0 * static_cast<double>(i) / kCount);
+    return samples;
+}
+
+void designAndFilter(benchmark::State& state, const std::vector<double>& x)
+{
+    run(state, x, [](const auto& in, const auto& h, auto& out) {
+        AALFunc481(in.data(), kCount, static_cast<int>(h.size()), 1, 0.1, 2, 0, out.data());
+    });
+}
+BENCHMARK_CAPTURE(designAndFilter, noise, noise(kCount))->Apply(counts)->Arg(16384);
+BENCHMARK_CAPTURE(designAndFilter, decay, decay())->Apply(counts)->Arg(16384);
+
+void localFits(benchmark::State& state, const std::vector<double>& x)
+{
+    run(state, x, [](const auto& in, const auto& h, auto& out) {
+        AALFunc356(in.data(), kCount, 3, static_cast<int>(h.size()) / 2, nullptr, out.data());
+    });
+}
+BENCHMARK_CAPTURE(localFits, noise, noise(kCount))->Arg(11)->Arg(101)->Arg(1001)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(localFits, decay, decay())->Arg(11)->Arg(101)->Arg(1001)->Unit(benchmark::kMillisecond);
 
 void plainLoop(const std::vector<double>& x, const std::vector<double>& h, std::vector<double>& y)
 {

@@ -1,6 +1,7 @@
-// IIR filtering: cascades beside one loop per section in plain C, the direct form beside the difference equation in
-// plain C. Per sample; tails are what follows a pulse down to 0.
+// IIR filtering: cascades beside one loop per section in plain C and beside the filters in one call, the direct form
+// beside the difference equation in plain C. Per sample; tails are what follows a pulse down to 0.
 #include <cmath>
+#include <cstring>
 #include <memory>
 #include <vector>
 
@@ -80,6 +81,30 @@ void cascadeComplex(benchmark::State& state)
     countSamples(state);
 }
 
+// The design included.
+void oneCall(benchmark::State& state)
+{
+    const std::vector<double> x = noise();
+    std::vector<double> y(x.size());
+    for (auto _ : state) {
+        AALFunc21(x.data(), kCount, 1, 0.1, static_cast<int>(state.range(0)), y.data());
+        benchmark::ClobberMemory();
+    }
+    countSamples(state);
+}
+
+void oneCallComplex(benchmark::State& state)
+{
+    const std::vector<double> samples = noise(2 * kCount);
+    std::vector<Complex> x(kCount), y(kCount);
+    std::memcpy(x.data(), samples.data(), sizeof(Complex) * x.size());
+    for (auto _ : state) {
+        AALFunc450(x.data(), kCount, 1, 0.1, static_cast<int>(state.range(0)), y.data());
+        benchmark::ClobberMemory();
+    }
+    countSamples(state);
+}
+
 void runSection(const double* x, std::int64_t n, const double* a, const double* b, double* s, double* y)
 {
     double s0 = s[0], s1 = s[1];
@@ -109,6 +134,8 @@ void cascadePlainC(benchmark::State& state)
 
 BENCHMARK(cascade)->Arg(2)->Arg(4)->Arg(8)->Arg(16)->Arg(20);
 BENCHMARK(cascadePlainC)->Arg(2)->Arg(4)->Arg(8)->Arg(16)->Arg(20);
+BENCHMARK(oneCall)->Arg(2)->Arg(4)->Arg(8)->Arg(16)->Arg(20);
+BENCHMARK(oneCallComplex)->Arg(2)->Arg(4)->Arg(8)->Arg(16);
 BENCHMARK(cascadeTail)->Arg(2)->Arg(8);
 BENCHMARK(cascadeComplex)->Arg(2)->Arg(4)->Arg(8)->Arg(16);
 

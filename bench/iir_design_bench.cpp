@@ -49,7 +49,17 @@ void elliptic(benchmark::State& state)
     repeat(state, [](IirFilter* filter) { return AALFunc61(1, 0.1, 0.2, 0.1, 60, filter); });
 }
 
+// The filter in one call, on a single sample.
+void butterworthOneCall(benchmark::State& state)
+{
+    double x = 1, y = 0;
+    for (auto _ : state)
+        if (AALFunc16(&x, 1, 1, 0.1, 0.2, static_cast<int>(state.range(0)), &y) != Status::Success)
+            std::abort();
+}
+
 BENCHMARK(butterworth)->ArgName("order")->Arg(8);
+BENCHMARK(butterworthOneCall)->ArgName("order")->Arg(8);
 BENCHMARK(bessel)->ArgName("order")->Arg(8)->Arg(20)->Arg(100)->Arg(300);
 BENCHMARK(chebyshev)->ArgName("order")->Arg(8);
 BENCHMARK(inverseChebyshev)->ArgName("order")->Arg(8);

@@ -27,15 +27,28 @@ void countSamples(benchmark::State& state)
     state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(kCount));
 }
 
-void medianFilter(benchmark::State& state)
+void runMedianFilter(benchmark::State& state, const std::vector<double>& x)
 {
-    const std::vector<double> x = noise();
     std::vector<double> y(kCount);
     for (auto _ : state) {
         quordsp::backend::AALFunc407(x.data(), kCount, state.range(0) / 2, -1, y.data());
         benchmark::ClobberMemory();
     }
     countSamples(state);
+}
+
+void medianFilter(benchmark::State& state)
+{
+    runMedianFilter(state, noise());
+}
+
+// Below the normal numbers.
+void medianFilterTail(benchmark::State& state)
+{
+    std::vector<double> x = noise();
+    for (double& sample : x)
+        sample *= 1e-310;
+    runMedianFilter(state, x);
 }
 
 void medianFilterGsl(benchmark::State& state)
@@ -53,6 +66,7 @@ void medianFilterGsl(benchmark::State& state)
 }
 
 BENCHMARK(medianFilter)->Arg(3)->Arg(5)->Arg(9)->Arg(11)->Arg(25)->Arg(101)->Arg(1001)->Arg(10001);
+BENCHMARK(medianFilterTail)->Arg(3)->Arg(11)->Arg(101);
 BENCHMARK(medianFilterGsl)->Arg(3)->Arg(5)->Arg(9)->Arg(11)->Arg(25)->Arg(101)->Arg(1001)->Arg(10001);
 
 } // namespace

@@ -1,5 +1,5 @@
 #!/bin/sh
-# Installs the Debian packages that building, testing and the demo need, and only those that are missing.
+# Installs the Debian packages that building, testing and the demo need, and those that are named; only missing ones.
 set -eu
 packages="
     cmake ninja-build make python3
@@ -7,6 +7,7 @@ packages="
     g++-mingw-w64-x86-64-posix wine64 wine
     libsndfile1-dev sndfile-programs sox
     googletest libbenchmark-dev libcli11-dev libopenblas-serial-dev libgsl-dev libhwy-dev libfftw3-dev
+    $*
 "
 missing=
 for package in $packages; do
