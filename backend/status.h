@@ -3,6 +3,9 @@
 
 #include "nianlys.h"
 
+#include <algorithm>
+#include <cstddef>
+
 namespace quordsp::backend {
 
 // Ends an entry from any depth; never leaves guarded().
@@ -27,7 +30,14 @@ void requireArrays(const T*... arrays)
     require((arrays && ...), Status::ArraySize);
 }
 
-// Runs the body of an entry. What is thrown besides a Failure is a container's word for "no memory".
+// A negative count is none.
+inline std::size_t sizeOf(std::int32_t count)
+{
+    return static_cast<std::size_t>(std::max(count, 0));
+}
+
+// Runs the body of an entry. What is thrown besides a Failure is what containers throw when there is no memory:
+// bad_alloc or, for a count beyond all memory, length_error. Nothing may leave an entry, so there is no other case.
 template <class Body>
 Status guarded(Body body) noexcept
 {

@@ -344,7 +344,9 @@ typedef AnalysisLibErrType (*QuorDSP_FreeAnalysisMemFunction)(void* memory);
 
 /*
  * IIR filters in one call: design and filtering from zero state. The signal is real. No transient is removed: the
- * output is causal, begins with the response to the first sample and has the length of the input.
+ * output is causal, begins with the response to the first sample and has the length of the input. The default backend
+ * runs these filters on sections of their own, which stay accurate at cut-offs where the coefficients of
+ * QuorDSP_..._CascadeCoef lose digits; how accurate, by family and cut-off, is tabulated in docs/accuracy.md.
  */
 
 /**
@@ -678,8 +680,8 @@ QUORDSP_API AnalysisLibErrType QuorDSP_CxElp_BSF(const double* inRe, const doubl
 /*
  * IIR design. QuorDSP_..._Coef gives the direct form for QuorDSP_IIRFiltering and QuorDSP_ZeroPhaseFiltering;
  * QuorDSP_..._CascadeCoef fills an IIR filter record for QuorDSP_IIRCascadeFiltering, which is the more accurate
- * form from about order 6 on and for narrow bands. How far the default backend's sections are from the ideal response,
- * by family and cut-off, is tabulated in docs/accuracy.md.
+ * form from about order 6 on and for narrow bands, and less accurate than the filters in one call. How far the default
+ * backend's sections are from the ideal response, by family and cut-off, is tabulated in docs/accuracy.md.
  */
 
 /**
@@ -1119,7 +1121,7 @@ QUORDSP_API void QuorDSP_FreeFIRFilterPtr(QuorDSP_FIRFilter* filter);
  * @param fs               Hz   sampling frequency, > 0
  * @param passBand         Hz   P of the table, > 0
  * @param stopBand         Hz   S of the table, > 0
- * @param centerFrequency  Hz   C of the table, > 0; read for types 2 and 3 only
+ * @param centerFrequency  Hz   C of the table, 0..fs/2; matters to types 2 and 3 only
  * @param ripple                largest deviation in the pass band, > 0, linear: 0.01 is 1 %
  * @param attenuation      dB   stop-band attenuation, > 0
  * @param type                  filter type 0..5
@@ -1279,7 +1281,7 @@ QUORDSP_API AnalysisLibErrType QuorDSP_CxEquiRpl_BSFiltering(const double* inRe,
 
 /**
  * Windowed FIR low-pass filter in one call, from zero state. From 192 taps on, and when taps times samples are 3
- * million or more, the default backend works by Fourier transforms, within 1e-12 sum |coefs| max |in| of
+ * million or more, the default backend works by Fourier transforms, within 1e-12 sum |coefs| max |in|, or 1e-298, of
  * QuorDSP_FIRFiltering.
  * @param in               [n]  samples; only read; may be the same array as out
  * @param n                     number of samples, 1 or more

@@ -5,6 +5,7 @@
 #include "fir/dolph_chebyshev.h"
 
 #include "extended_precision.h"
+#include "status.h"
 #include "transform/real_plan.h"
 
 #include <algorithm>
@@ -16,6 +17,8 @@ namespace {
 
 using Real = long double;
 
+// More take more than some seconds, also where a filter needs a few of them only.
+constexpr std::size_t kMostTaps = std::size_t{1} << 23;
 constexpr Real kPi = std::numbers::pi_v<Real>;
 
 // acosh(10^(attenuation / 20))
@@ -65,6 +68,7 @@ private:
 // The spectrum gets the phase of a signal that is symmetric about (N - 1) / 2: (-1)^m exp(j pi m / N).
 Buffer<> dolphChebyshevHalf(double attenuation, std::size_t taps)
 {
+    require(taps <= kMostTaps, Status::OutOfMemory);
     Buffer<> values = makeBuffer(taps);
     if (taps == 1) {
         values[0] = 1;

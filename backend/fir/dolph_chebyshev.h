@@ -6,6 +6,7 @@
 namespace quordsp::backend {
 
 // The first half of taps values, the middle of an odd number included. attenuation of the side lobes: dB, finite, > 0.
+// More than 2^23 taps are answered as "out of memory".
 Buffer<> dolphChebyshevHalf(double attenuation, std::size_t taps);
 
 } // namespace quordsp::backend

@@ -22,6 +22,10 @@ constexpr Real kExcess = 0.01L;
 constexpr Real kRounding = 0x1p-52L;
 // Where Q vanishes at the edge of a band, the band ends this part of the extrema's mean distance before the edge.
 constexpr Real kClearance = 0.04L;
+// In proportion to the largest error.
+constexpr Real kTolerance = 1e-8L;
+constexpr Real kOnTheWay = 0.1L;
+constexpr std::size_t kFirstStride = 64;
 // A slope at 0 is measured here.
 constexpr Real kNearZero = 1e-10L;
 
@@ -81,18 +85,19 @@ struct Level {
     Solution solution;
     std::vector<double> h;
     Real ripple;
-    int exchanges; // up to here
 };
 
 class Climb {
 public:
-    explicit Climb(const Approximation& wanted)
-        : approximation_{wanted}, size_{wanted.filter.size()}, scale_{scaleOf(wanted)}
+    Climb(const Approximation& wanted, Effort& effort)
+        : approximation_{wanted}, size_{wanted.filter.size()}, scale_{scaleOf(wanted)}, effort_{effort}
     {}
 
     // The largest size, up to the wanted one, that double can hold.
     Level run()
     {
+        if (std::optional<Level> all = stride())
+            return *std::move(all);
         Level best = climb();
         const bool isCut = sizeOf(best) < size_ || !isAboveFloor(best);
         require(!isCut || approximation_.largestWeight() <= kWidestWeights * approximation_.smallestWeight(),
@@ -101,6 +106,29 @@ public:
     }
 
 private:
+    // The usual design: the sizes on the way are only where the next one starts, and no more exact than that takes.
+    // Nothing where one of them does not settle, or has an error that double may be too coarse for.
+    std::optional<Level> stride()
+    {
+        std::size_t size = size_;
+        while (size > kFirstStride)
+            size = (size + 1) / 2;
+        setSize(size);
+        std::optional<Solution> solution =
+            solve(size < size_ ? kOnTheWay : kTolerance, evenReference(approximation_, size + 1));
+        while (solution && solution->largestError > kSettled * scale_) {
+            if (size == size_) {
+                Level all = levelOf(*std::move(solution));
+                return isTrue(all) ? std::optional{std::move(all)} : std::nullopt;
+            }
+            size = std::min(2 * size, size_);
+            setSize(size);
+            solution = solve(size < size_ ? kOnTheWay : kTolerance,
+                             scaledReference(approximation_, solution->extrema, size + 1));
+        }
+        return std::nullopt;
+    }
+
     Level climb()
     {
         std::size_t start = size_;
@@ -128,29 +156,31 @@ private:
     }
     bool isHeld(const std::optional<Level>& level) const { return level && isAboveFloor(*level) && isTrue(*level); }
 
-    std::optional<Solution> solve(const Level* model) const
+    void setSize(std::size_t size) { approximation_.filter = approximation_.filter.ofSize(size); }
+
+    std::optional<Solution> solve(Real tolerance, const Reference& start)
     {
-        const std::size_t count = approximation_.filter.size() + 1;
-        std::optional<Solution> solution;
-        if (model) {
-            Reference start = scaledReference(approximation_, model->solution.extrema, count);
-            solution = exchange(approximation_, std::move(start), kFloor * scale_);
-        }
-        if (!solution)
-            solution = exchange(approximation_, evenReference(approximation_, count), kFloor * scale_);
-        return solution;
+        return exchange(approximation_, start, {tolerance, kFloor * scale_}, effort_);
     }
 
     std::optional<Level> level(std::size_t size, const Level* model)
     {
-        approximation_.filter = approximation_.filter.ofSize(size);
-        std::optional<Solution> solution = solve(model);
+        setSize(size);
+        std::optional<Solution> solution;
+        if (model)
+            solution = solve(kTolerance, scaledReference(approximation_, model->solution.extrema, size + 1));
+        if (!solution)
+            solution = solve(kTolerance, evenReference(approximation_, size + 1));
         if (!solution)
             return std::nullopt;
-        std::vector<double> h = coefficientsOf(approximation_.filter, *solution);
-        const Real ripple = measuredError(approximation_, h.data(), solution->extrema);
-        const int exchanges = solution->exchanges + (model ? model->exchanges : 0);
-        return Level{approximation_.filter, *std::move(solution), std::move(h), ripple, exchanges};
+        return levelOf(*std::move(solution));
+    }
+
+    Level levelOf(Solution solution) const
+    {
+        std::vector<double> h = coefficientsOf(approximation_.filter, solution);
+        const Real ripple = measuredError(approximation_, h.data(), solution.extrema);
+        return {approximation_.filter, std::move(solution), std::move(h), ripple};
     }
 
     // best is held, many is too much. Exchanges that do not settle for want of digits are part of the search, but not
@@ -174,19 +204,21 @@ private:
     Approximation approximation_;
     std::size_t size_;
     Real scale_;
+    Effort& effort_;
 };
 
 } // namespace
 
-EquirippleFilter equiripple(Approximation wanted)
+EquirippleFilter equiripple(Approximation wanted, Effort& effort)
 {
     clearZeros(wanted);
-    Level level = Climb{wanted}.run();
+    const int before = effort.exchanges();
+    Level level = Climb{wanted, effort}.run();
     require(std::isfinite(static_cast<double>(level.ripple)), Status::DesignFailed);
     const std::size_t zeros = (wanted.filter.taps - level.h.size()) / 2;
     level.h.insert(level.h.begin(), zeros, 0.0);
     level.h.resize(wanted.filter.taps);
-    return {std::move(level.h), static_cast<double>(level.ripple), level.exchanges};
+    return {std::move(level.h), static_cast<double>(level.ripple), effort.exchanges() - before};
 }
 
 } // namespace quordsp::backend

@@ -62,6 +62,7 @@ bool reachesHalf(const BandDesign& design)
 void checkBands(const BandDesign& design)
 {
     require(design.fs > 0 && std::isfinite(design.fs) && design.bands.count > 0, Status::Band);
+    require(design.bands.count <= kMostBands, Status::DesignFailed);
     for (std::int64_t i = 0; i < design.bands.count; ++i) {
         const Band band = design.bands[i];
         require(i == 0 ? band.lowerFrequency >= 0 : band.lowerFrequency > design.bands[i - 1].upperFrequency,
@@ -142,7 +143,7 @@ Status designBands(const BandDesign& design, double* h, double* ripple) noexcept
         checkTaps(design.taps);
         checkBands(design);
         checkKind(design);
-        require(design.taps <= kMostTaps && design.bands.count <= kMostBands, Status::DesignFailed);
+        require(design.taps <= kMostTaps, Status::DesignFailed);
         store(inExtendedPrecision([&] { return equiripple(approximationOf(design)); }), h, ripple);
     });
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "fir/interpolant.h"
+#include "status.h"
 
 namespace quordsp::backend {
 
@@ -9,11 +10,36 @@ struct Solution {
     std::vector<Node> nodes; // of the polynomial
     Reference extrema;       // where its error is largest, the signs in turn
     Real largestError;
-    int exchanges;
 };
 
-// Ends early once the largest error is sufficient. Null when the exchange does not settle, which only too few digits or
-// too little room between the places can cause.
-std::optional<Solution> exchange(const Approximation& approximation, Reference reference, Real sufficient);
+// What an entry spends on its designs: an exchange costs the square of its places, or 16 times as much in extended
+// precision. Beyond the most, which takes some seconds, it throws DesignFailed.
+class Effort {
+public:
+    static constexpr Real kMost = 1e9L;
+
+    int exchanges() const { return exchanges_; }
+    Real spent() const { return spent_; }
+    void spend(Real cost)
+    {
+        spent_ += cost;
+        ++exchanges_;
+        require(spent_ <= kMost, Status::DesignFailed);
+    }
+
+private:
+    Real spent_ = 0;
+    int exchanges_ = 0;
+};
+
+// How close to the least one the largest error has to come, in proportion to it; and from where on it will do anyhow.
+struct Aim {
+    Real tolerance;
+    Real sufficient;
+};
+
+// Null when the exchange does not settle, which only too few digits or too little room between the places can cause.
+std::optional<Solution> exchange(const Approximation& approximation, const Reference& reference, const Aim& aim,
+                                 Effort& effort);
 
 } // namespace quordsp::backend

@@ -29,7 +29,7 @@ void filter(const Sample* x, std::int64_t n, const Fir& fir, Sample* state, Samp
 }
 
 // A whole signal from zero state. Many taps are worked off by Fourier transforms: results are then within 1e-12 sum |h|
-// max |x| of the direct sums, and still the same bits for real signals and parts of complex ones.
+// max |x|, or 1e-298, of the direct sums, and still the same bits for real signals and parts of complex ones.
 template <class Sample>
 void filterFromRest(const Sample* x, std::int64_t n, const Fir& fir, Sample* y)
 {

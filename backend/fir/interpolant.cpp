@@ -4,6 +4,7 @@
 #include "fir/interpolant.h"
 
 #include <algorithm>
+#include <array>
 
 namespace quordsp::backend {
 namespace {
@@ -36,13 +37,37 @@ private:
     int power_ = 0;
 };
 
+// A product is brought back into range after so many factors, none of which is below 2^-64.
+constexpr std::size_t kFactors = 16;
+
+// Of the distances of Count nodes, side by side, from all others.
+template <std::size_t Count>
+std::array<Product, Count> productsOf(const std::vector<Node>& nodes, std::size_t first)
+{
+    std::array<Product, Count> products;
+    for (std::size_t begin = 0; begin < nodes.size(); begin += kFactors) {
+        std::array<Real, Count> factors;
+        factors.fill(1);
+        const std::size_t end = std::min(begin + kFactors, nodes.size());
+        for (std::size_t k = begin; k < end; ++k)
+            for (std::size_t i = 0; i < Count; ++i)
+                factors[i] *= first + i == k ? 1 : nodes[first + i].x - nodes[k].x;
+        for (std::size_t i = 0; i < Count; ++i)
+            products[i].multiply(factors[i]);
+    }
+    return products;
+}
+
 std::vector<Real> barycentricWeights(const std::vector<Node>& nodes)
 {
-    std::vector<Product> products(nodes.size());
-    for (std::size_t i = 0; i < nodes.size(); ++i)
-        for (std::size_t k = 0; k < nodes.size(); ++k)
-            if (i != k)
-                products[i].multiply(nodes[i].x - nodes[k].x);
+    constexpr std::size_t kSideBySide = 4;
+    std::vector<Product> products;
+    products.reserve(nodes.size());
+    while (products.size() + kSideBySide <= nodes.size())
+        for (const Product& product : productsOf<kSideBySide>(nodes, products.size()))
+            products.push_back(product);
+    while (products.size() < nodes.size())
+        products.push_back(productsOf<1>(nodes, products.size())[0]);
     const int power = std::ranges::max_element(products, {}, &Product::power)->power();
     std::vector<Real> weights(nodes.size());
     std::ranges::transform(products, weights.begin(), [power](const Product& p) { return p.reciprocal(power); });
@@ -70,9 +95,11 @@ void Interpolant::setValues(const Reference& reference, const std::vector<Real>&
     const auto bandOf = [&](const Place& place) -> const ApproximationBand& {
         return approximation_->bands[place.band];
     };
+    std::vector<Real> gains(reference.size());
+    std::ranges::transform(reference, gains.begin(), [&](const Place& place) { return approximation_->gain(place); });
     Real above = 0, below = 0, sign = 1;
     for (std::size_t i = 0; i < nodes_.size(); ++i, sign = -sign) {
-        const Real share = weights[i] / approximation_->gain(reference[i]);
+        const Real share = weights[i] / gains[i];
         above += share * bandOf(reference[i]).desired;
         below += share * sign / bandOf(reference[i]).weight;
     }
@@ -80,7 +107,7 @@ void Interpolant::setValues(const Reference& reference, const std::vector<Real>&
     sign = 1;
     for (std::size_t i = 0; i < nodes_.size(); ++i, sign = -sign) {
         const ApproximationBand& band = bandOf(reference[i]);
-        nodes_[i].value = (band.desired - sign * delta_ / band.weight) / approximation_->gain(reference[i]);
+        nodes_[i].value = (band.desired - sign * delta_ / band.weight) / gains[i];
     }
 }
 
@@ -120,6 +147,12 @@ Real Interpolant::valueAt(Real x) const
 Real Interpolant::error(const Place& place) const
 {
     return approximation_->error(place, approximation_->gain(place) * valueAt(cosineOfTurns(place.f)));
+}
+
+void Interpolant::evaluate(std::size_t band, std::span<const Real> f, Real* errors) const
+{
+    for (std::size_t i = 0; i < f.size(); ++i)
+        errors[i] = error({f[i], band});
 }
 
 } // namespace quordsp::backend

@@ -9,6 +9,7 @@ namespace {
 
 constexpr int kMostRaises = 20;
 constexpr int kTestsPerTap = 8;
+constexpr std::size_t kMostImages = 16;
 constexpr Real kLeastSteepness = 0.5L;
 
 // Kaiser's estimate of taps - 1, times the width of the transition band.
@@ -36,12 +37,12 @@ ApproximationBand stopping(Real lower, Real upper, const Deviations& allowed)
 
 // Raises the taps until the largest weighted error is within 1; the bands' weights are the reciprocals of what is
 // allowed. Each time by what Kaiser's estimate says about the error, and by 2 at least.
-std::vector<double> fitted(const std::vector<ApproximationBand>& bands, const Deviations& allowed)
+std::vector<double> fitted(const std::vector<ApproximationBand>& bands, const Deviations& allowed, Effort& effort)
 {
     const Real transition = bands[1].lower - bands[0].upper;
     std::int64_t taps = estimatedTaps(allowed, transition);
     for (int raises = 0; raises <= kMostRaises && taps <= kMostTaps; ++raises) {
-        EquirippleFilter filter = equiripple({{static_cast<std::size_t>(taps), false}, bands});
+        EquirippleFilter filter = equiripple({{static_cast<std::size_t>(taps), false}, bands}, effort);
         if (filter.ripple <= 1)
             return std::move(filter.h);
         const Real missing = 20 * std::log10(Real{filter.ripple}) / (14.6L * transition);
@@ -62,17 +63,20 @@ bool isWithin(Real limit, const std::vector<double>& h, Real from)
     return true;
 }
 
-// Stops the repetitions only, which takes fewer taps than to stop everything. Between them the model stops, as long as
-// the suppressor does not amplify there more than where it passes.
-std::vector<double> imageSuppressor(Real pass, Real stop, Real interpolation, const Deviations& allowed)
+// Stops the repetitions only, which takes fewer taps than to stop everything, unless they are so many that the exchange
+// gropes about among them. Between them the model stops, as long as the suppressor does not amplify there more than
+// where it passes.
+std::vector<double> imageSuppressor(Real pass, Real stop, Real interpolation, const Deviations& allowed, Effort& effort)
 {
     std::vector<ApproximationBand> bands{passing(pass, allowed)};
     for (Real image = 1; image <= interpolation / 2; ++image)
         bands.push_back(stopping(image / interpolation - stop, image / interpolation + stop, allowed));
-    std::vector<double> h = fitted(bands, allowed);
-    if (isWithin(1 + allowed.pass, h, stop))
-        return h;
-    return fitted({bands[0], stopping(bands[1].lower, 0.5L, allowed)}, allowed);
+    if (bands.size() <= kMostImages) {
+        std::vector<double> h = fitted(bands, allowed, effort);
+        if (isWithin(1 + allowed.pass, h, stop))
+            return h;
+    }
+    return fitted({bands[0], stopping(bands[1].lower, 0.5L, allowed)}, allowed, effort);
 }
 
 // The largest for which the model's stop band ends below half the sampling frequency and the suppressor has taps to
@@ -92,13 +96,15 @@ InterpolatedFilter interpolatedLowPass(Real pass, Real stop, const Deviations& a
 {
     // One factor may deviate as much as two of them may together: (1 + each)^2 = 1 + both.
     const Real each = std::sqrt(1 + allowed.pass) - 1;
+    Effort effort;
     const Deviations ofFactor{each, allowed.stop / (1 + each)};
     const std::int32_t interpolation = interpolationFor(pass, stop, ofFactor);
     if (interpolation == 1)
-        return {1, fitted({passing(pass, allowed), stopping(stop, 0.5L, allowed)}, allowed), {1.0}};
+        return {1, fitted({passing(pass, allowed), stopping(stop, 0.5L, allowed)}, allowed, effort), {1.0}};
     return {interpolation,
-            fitted({passing(pass * interpolation, ofFactor), stopping(stop * interpolation, 0.5L, ofFactor)}, ofFactor),
-            imageSuppressor(pass, stop, interpolation, ofFactor)};
+            fitted({passing(pass * interpolation, ofFactor), stopping(stop * interpolation, 0.5L, ofFactor)}, ofFactor,
+                   effort),
+            imageSuppressor(pass, stop, interpolation, ofFactor, effort)};
 }
 
 } // namespace quordsp::backend

@@ -5,17 +5,19 @@
 namespace quordsp::backend {
 namespace {
 
-// The cosines, or sines, of all multiples of pi / taps.
+// The cosines, or sines, of all multiples of pi / taps: of those up to pi / 2, and of their mirror images.
 std::vector<Real> waveOf(const LinearPhase& filter)
 {
-    std::vector<Real> wave(2 * filter.taps);
+    const std::size_t taps = filter.taps;
+    std::vector<Real> wave(2 * taps);
     const auto value = filter.isAntisymmetric ? sineOfTurns : cosineOfTurns;
-    const Real mirrored = filter.isAntisymmetric ? -1 : 1;
-    for (std::size_t k = 0; k < wave.size(); ++k) {
-        const bool isFirstHalf = k <= filter.taps;
-        const std::size_t nearest = isFirstHalf ? k : wave.size() - k;
-        const Real turns = static_cast<Real>(nearest) / static_cast<Real>(wave.size());
-        wave[k] = value(turns) * (isFirstHalf ? 1 : mirrored);
+    const Real acrossHalf = filter.isAntisymmetric ? 1 : -1;
+    for (std::size_t k = 0; 2 * k <= taps; ++k) {
+        wave[k] = value(static_cast<Real>(k) / static_cast<Real>(wave.size()));
+        wave[taps - k] = acrossHalf * wave[k];
+        wave[taps + k] = -wave[k];
+        if (k > 0)
+            wave[2 * taps - k] = -wave[taps - k];
     }
     return wave;
 }

@@ -27,6 +27,13 @@ struct LinearPhase {
 
     // Q(f), and what Q(f) / f tends to at 0 for antisymmetric filters.
     Real factor(Real f) const;
+    // The same from cos(pi f) and sin(pi f).
+    double factor(double cosine, double sine) const
+    {
+        if (isAntisymmetric)
+            return isOdd() ? 2 * cosine * sine : sine;
+        return isOdd() ? 1 : cosine;
+    }
     Real slopeAtZero() const;
 };
 

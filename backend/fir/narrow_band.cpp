@@ -5,6 +5,7 @@
 #include "fir/filtering.h"
 #include "fir/interpolated.h"
 #include "fir/linear_phase.h"
+#include "no_subnormals.h"
 #include "status.h"
 
 #include <algorithm>
@@ -45,6 +46,7 @@ void checkFrequencies(const NarrowBandDesign& design)
     const auto [fs, pass, stop, centre, ripple, attenuation, type] = design;
     require(fs > 0 && std::isfinite(fs) && pass > 0 && stop > 0, Status::Band);
     const Real nyquist = Real{fs} / 2;
+    require(centre >= 0 && centre <= nyquist, Status::Band);
     if (isShifted(type)) {
         const Real half = Real{std::max(pass, stop)} / 2;
         require(type == BandPass ? stop > pass : pass > stop, Status::Band);
@@ -155,6 +157,7 @@ void checkRecord(const FirFilter& filter)
 // y[i] = x[i - delay] - y[i], zeros before x; x may be y with what was in y in rest.
 void subtractFromDelayed(const double* x, std::size_t count, std::size_t delay, const double* rest, double* y)
 {
+    const NoSubnormals noSubnormals;
     for (std::size_t i = count; i-- > 0;)
         y[i] = (i < delay ? 0.0 : x[i - delay]) - rest[i];
 }

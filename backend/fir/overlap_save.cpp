@@ -16,6 +16,16 @@ namespace {
 // Smaller transforms cost more per sample, larger ones outgrow the cache.
 constexpr std::size_t kSmallestSize = 4096;
 
+// Between these no sum or product in the transforms overflows or loses digits to underflow; below them the inputs are
+// raised.
+constexpr double kLeast = 1e-250, kMost = 1e250, kRaise = 0x1p600;
+
+void scale(double* values, std::size_t count, double factor)
+{
+    for (std::size_t i = 0; factor != 1 && i < count; ++i)
+        values[i] *= factor;
+}
+
 } // namespace
 
 // Measured beside the direct sums with AVX-512; others are slower. The product is what a plan takes to make.
@@ -64,18 +74,17 @@ void OverlapSave::filter(const double* x, std::size_t n, std::size_t stride, dou
 
 void OverlapSave::filterBlock(std::size_t length) const
 {
-    const double* const inputs = inputs_.get();
-    if (isWithinRange()) {
-        plan_.forward(inputs, spectrum_, work_.get());
-        multiplyByResponse();
-        plan_.inverse(spectrum_, outputs_.get(), work_.get());
-    } else {
-        onThisMachine<convolve>(inputs + history_, length, h_, taps_, std::size_t{1}, outputs_.get() + history_);
-    }
+    const double largest = largestInput();
+    const double raise = largest * reach_ > kLeast ? 1 : kRaise;
+    if (reach_ > kLeast && largest * raise * std::max(reach_, 1.0) < kMost)
+        transform(raise);
+    else
+        onThisMachine<convolve>(static_cast<const double*>(inputs_.get()) + history_, length, h_, taps_, std::size_t{1},
+                                outputs_.get() + history_);
 }
 
-// Whether no sum or product in the transforms overflows or loses digits to underflow.
-bool OverlapSave::isWithinRange() const
+// Infinity if one is not finite.
+double OverlapSave::largestInput() const
 {
     double largest = 0;
     bool isFinite = true;
@@ -83,9 +92,18 @@ bool OverlapSave::isWithinRange() const
         isFinite &= std::abs(inputs_[i]) <= std::numeric_limits<double>::max();
         largest = std::max(largest, std::abs(inputs_[i]));
     }
-    if (largest == 0)
-        return isFinite;
-    return isFinite && largest * reach_ > 1e-250 && largest * std::max(reach_, 1.0) < 1e250;
+    return isFinite ? largest : std::numeric_limits<double>::infinity();
+}
+
+// The inputs are raised by a power of two, and are the same again afterwards.
+void OverlapSave::transform(double raise) const
+{
+    scale(inputs_.get(), size_, raise);
+    plan_.forward(inputs_.get(), spectrum_, work_.get());
+    scale(inputs_.get(), size_, 1 / raise);
+    multiplyByResponse();
+    plan_.inverse(spectrum_, outputs_.get(), work_.get());
+    scale(outputs_.get(), size_, 1 / raise);
 }
 
 void OverlapSave::multiplyByResponse() const

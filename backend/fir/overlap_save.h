@@ -1,8 +1,8 @@
 // FIR filtering of a whole real signal by Fourier transforms: its cost grows with the logarithm of the number of taps.
 //
-// Every output is within 1e-12 sum |h| max |x| of the direct sum, max |x| over the block of 4096 samples, or 4 to 8
-// times the taps, that it stands in. So its last bits depend on later inputs, too. But a block that holds NaN, infinity
-// or numbers beyond the range of the transforms is filtered by direct sums.
+// Every output is within 1e-12 sum |h| max |x|, or 1e-298, of the direct sum, max |x| over the block of 4096 samples,
+// or 4 to 8 times the taps, that it stands in. So its last bits depend on later inputs, too. But a block that holds
+// NaN, infinity or numbers too large for the transforms is filtered by direct sums.
 #pragma once
 
 #include "transform/real_plan.h"
@@ -22,8 +22,9 @@ public:
 
 private:
     std::size_t blockSize() const { return size_ - history_; }
-    bool isWithinRange() const;
     void filterBlock(std::size_t length) const;
+    double largestInput() const;
+    void transform(double raise) const;
     void multiplyByResponse() const;
 
     const double* h_;

@@ -38,9 +38,10 @@ struct Shape {
 Real cosines(const Place& place)
 {
     Real sum = 0;
-    for (int j = 6; j >= 0; --j)
-        sum += place.shape.terms[j] * std::cos(static_cast<Real>(j) * kPi * place.v);
-    return sum;
+    for (int j = 6; j > 0; --j)
+        if (place.shape.terms[j] != 0)
+            sum += place.shape.terms[j] * std::cos(static_cast<Real>(j) * kPi * place.v);
+    return sum + place.shape.terms[0];
 }
 
 Real triangle(const Place& place)

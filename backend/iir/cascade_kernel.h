@@ -1,35 +1,32 @@
-// Sections of a cascade in direct form II,
-//     s[i] = x[i] - aD s[i-D] - ... - a1 s[i-1],  y[i] = b0 s[i] + (b1 s[i-1] + ... + bD s[i-D]).
+// Sections of a cascade, side by side.
 //
-// A section waits for its own last value: one product and one difference, whatever else the processor could do
-// meanwhile. So several sections run side by side, each some samples behind the one before it, from which it takes its
-// input. Every section still sees the samples in their order and forms its sums as above: the results have the same
-// bits as section after section. The lag is as long as an output takes to be formed and moved to its neighbour, so that
-// nobody waits for it.
+// A section waits for its own last value, for one product and one difference or a little more, whatever else the
+// processor could do meanwhile. So several sections run side by side, each some samples behind the one before it, from
+// which it takes its input. Every section still sees the samples in their order and forms its sums as it does alone:
+// the results have the same bits as section after section. The lag is as long as an output takes to be formed and moved
+// to its neighbour, so that nobody waits for it.
 #pragma once
 
-#include "iir/delay_line.h"
+#include "iir/section_forms.h"
 
-#include <cstddef>
-#include <cstdint>
 #include <cstring>
 #include <utility>
 
 namespace quordsp::backend {
 
-// Coefficients a1..aD and b0..bD of each section.
+// Coefficients a1..aD and b0..bD of each section of order D.
 struct Sections {
     std::size_t count;
     const double* reverse;
     const double* forward;
 };
 
-// Sections of order D over samples of P parts. There is room for S of them; the last one stands in the first lanes,
-// where the outputs come from.
-template <std::size_t D, std::size_t P, std::size_t S>
+// Sections over samples of P parts. There is room for S of them; the last one stands in the first lanes, where the
+// outputs come from.
+template <class Section, std::size_t P, std::size_t S>
 class SectionLanes {
 public:
-    static constexpr std::int64_t kLag = D == 2 ? 3 : 4;
+    static constexpr std::int64_t kLag = Section::kLag;
 
     [[gnu::always_inline]] SectionLanes(const Sections& sections, const double* state) noexcept
     {
@@ -68,19 +65,18 @@ public:
     // Every section takes one sample, the first one this.
     [[gnu::always_inline]] void step(const double* sample) noexcept
     {
-        Row newest;
-        compute(sample, newest);
-        s_.push(newest);
+        Row input, output;
+        take(sample, input, std::make_index_sequence<P * S>());
+        Section::step(input, a_, b_, s_, output);
+        y_.push(output);
     }
 
     // At the beginning and at the end of n samples some sections have none to take.
     [[gnu::always_inline]] void stepAtEnds(const double* sample, std::int64_t time, std::int64_t n) noexcept
     {
         const Mask takesOne = (start_ <= time) & (start_ > time - n);
-        Row newest;
-        compute(sample, newest);
         const DelayLine<Row, D> before = s_;
-        s_.push(newest);
+        step(sample);
         for (std::size_t k = 0; k < D; ++k)
             s_[k] = takesOne ? s_[k] : before[k];
     }
@@ -93,19 +89,9 @@ public:
     }
 
 private:
+    static constexpr std::size_t D = Section::kOrder;
     using Row [[gnu::vector_size(P * S * sizeof(double))]] = double;
     using Mask [[gnu::vector_size(P * S * sizeof(std::int64_t))]] = std::int64_t;
-
-    [[gnu::always_inline]] void compute(const double* sample, Row& newest) noexcept
-    {
-        take(sample, newest, std::make_index_sequence<P * S>());
-        Row past = b_[1] * s_[0];
-        for (std::size_t k = 1; k < D; ++k)
-            past = past + b_[k + 1] * s_[k];
-        for (std::size_t k = D; k-- > 0;)
-            newest = newest - a_[k] * s_[k];
-        y_.push(b_[0] * newest + past);
-    }
 
     template <std::size_t... lane>
     [[gnu::always_inline]] void take(const double* sample, Row& input, std::index_sequence<lane...>) const noexcept
@@ -117,18 +103,18 @@ private:
     }
 
     Row a_[D], b_[D + 1];
-    DelayLine<Row, D> s_;    // s[i-1] ... s[i-D]
+    DelayLine<Row, D> s_;
     DelayLine<Row, kLag> y_; // the last outputs
     Mask start_, isFirst_;
 };
 
-// At most S sections over n samples, more than it takes the first one to reach the last section. state: s[i-1] ...
-// s[i-D] of each section; x may be y.
-template <std::size_t D, std::size_t P, std::size_t S>
+// At most S sections over n samples, more than it takes the first one to reach the last section. state: the D values
+// of each section's form; x may be y.
+template <class Section, std::size_t P, std::size_t S>
 [[gnu::always_inline]] inline void filterSections(const double* x, std::int64_t n, Sections sections, double* state,
                                                   double* y) noexcept
 {
-    using Lanes = SectionLanes<D, P, S>;
+    using Lanes = SectionLanes<Section, P, S>;
     constexpr auto p = static_cast<std::int64_t>(P);
     const std::int64_t delay = Lanes::kLag * static_cast<std::int64_t>(sections.count - 1);
     Lanes lanes{sections, state};

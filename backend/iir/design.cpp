@@ -1,6 +1,7 @@
 #include "iir/design.h"
 
 #include "extended_precision.h"
+#include "iir/delta_sections.h"
 #include "status.h"
 
 namespace quordsp::backend {
@@ -35,6 +36,12 @@ Coefficients cascadeOf(const Design& design, std::size_t sectionOrder)
     return inExtendedPrecision([&] {
         return roundedSections(sectionsOf(design), sectionOrder, axisPoints(design.response, design.frequencies));
     });
+}
+
+Coefficients deltaCascadeOf(const Design& design)
+{
+    return inExtendedPrecision(
+        [&] { return deltaSections(sectionsOf(design), axisPoints(design.response, design.frequencies)); });
 }
 
 std::int64_t directCount(Response response, std::int32_t order)

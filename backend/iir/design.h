@@ -22,7 +22,9 @@ void check(const Design& design);
 // To be called in extended precision.
 std::vector<AnalogSection> sectionsOf(const Design& design);
 
+// For DirectSection<sectionOrder>, and for DeltaSection.
 Coefficients cascadeOf(const Design& design, std::size_t sectionOrder);
+Coefficients deltaCascadeOf(const Design& design);
 
 // The number of coefficients of the direct form.
 std::int64_t directCount(Response response, std::int32_t order);

@@ -13,11 +13,6 @@
 namespace quordsp::backend {
 namespace {
 
-std::size_t size(std::int32_t count)
-{
-    return static_cast<std::size_t>(std::max(count, 0));
-}
-
 void requireLengths(std::int32_t na, std::int32_t nb, Response response, std::int32_t order)
 {
     const std::int64_t wanted = directCount(response, order);
@@ -74,7 +69,6 @@ Polynomial numeratorOf(const IirFilter& filter, std::size_t k)
 
 } // namespace
 
-// Sections of second order for the band filters too: at low cut-offs those of fourth order lose digits.
 template <class Sample>
 Status designAndFilter(const Sample* x, std::int64_t n, const Design& design, Sample* y) noexcept
 {
@@ -82,9 +76,10 @@ Status designAndFilter(const Sample* x, std::int64_t n, const Design& design, Sa
         requirePositiveCount(n);
         requireArrays(x, y);
         check(design);
-        const Coefficients filter = cascadeOf(design, 2);
+        const Coefficients filter = deltaCascadeOf(design);
         std::vector<Sample> state(filter.reverse.size());
-        filterCascade(x, n, 2, {state.size() / 2, filter.reverse.data(), filter.forward.data()}, state.data(), y);
+        const Sections sections{state.size() / DeltaSection::kOrder, filter.reverse.data(), filter.forward.data()};
+        filterCascade<DeltaSection>(x, n, sections, state.data(), y);
     });
 }
 
@@ -104,7 +99,7 @@ Status designDirect(const Design& design, double* a, std::int32_t na, double* b,
                 const Biquad biquad = bilinear(section);
                 form.multiply(biquad.a, biquad.b);
             }
-            form.store({a, size(na)}, {b, size(nb)});
+            form.store({a, sizeOf(na)}, {b, sizeOf(nb)});
         });
     });
 }
@@ -119,7 +114,7 @@ Status cascadeToDirect(const IirFilter* filter, double* a, std::int32_t na, doub
             DirectForm form;
             for (std::size_t k = 0; k < sectionCount(filter->order); ++k)
                 form.multiply(denominatorOf(*filter, k), numeratorOf(*filter, k));
-            form.store({a, size(na)}, {b, size(nb)});
+            form.store({a, sizeOf(na)}, {b, sizeOf(nb)});
         });
     });
 }

@@ -12,9 +12,12 @@
 namespace quordsp::backend {
 namespace {
 
-std::size_t size(std::int32_t count)
+// What a filter without coefficients does.
+template <class Sample>
+void copySamples(const Sample* x, std::int64_t n, Sample* y)
 {
-    return static_cast<std::size_t>(std::max(count, 0));
+    if (x != y)
+        std::copy_n(x, n, y);
 }
 
 constexpr double kOne = 1;
@@ -22,7 +25,7 @@ constexpr double kOne = 1;
 // A filter without reverse coefficients divides by 1.
 std::span<const double> reverseOf(const double* a, std::int32_t na)
 {
-    return na > 0 ? std::span{a, size(na)} : std::span{&kOne, 1};
+    return na > 0 ? std::span{a, sizeOf(na)} : std::span{&kOne, 1};
 }
 
 template <class Sample>
@@ -38,8 +41,9 @@ void checkDirect(const Sample* x, std::int64_t n, const double* a, std::int32_t 
 template <class Sample>
 void runCascade(const Sample* x, std::int64_t n, const IirFilter& filter, Sample* state, Sample* y)
 {
-    filterCascade(x, n, sectionOrder(Response{filter.type}),
-                  {sectionCount(filter.order), filter.reverse, filter.forward}, state, y);
+    const auto run = isBand(Response{filter.type}) ? filterCascade<DirectSection<4>, Sample>
+                                                   : filterCascade<DirectSection<2>, Sample>;
+    run(x, n, {sectionCount(filter.order), filter.reverse, filter.forward}, state, y);
 }
 
 } // namespace
@@ -67,7 +71,7 @@ Status filterThroughCascade(const Complex* x, std::int64_t n, const IirFilter* f
         if (state && state->elements && state->count == filter->reverseCount)
             runCascade(x, n, *filter, state->elements, y);
         else
-            runCascade(x, n, *filter, std::vector<Complex>(size(filter->reverseCount)).data(), y);
+            runCascade(x, n, *filter, std::vector<Complex>(sizeOf(filter->reverseCount)).data(), y);
     });
 }
 
@@ -78,10 +82,10 @@ Status filterThroughDirect(const Sample* x, std::int64_t n, const double* a, Sam
     return guarded([&] {
         checkDirect(x, n, a, na, b, nb, y);
         if (na <= 0 && nb <= 0) {
-            std::copy_n(x, n, y);
+            copySamples(x, n, y);
             return;
         }
-        DirectFilter filter{reverseOf(a, na), {b, size(nb)}, kParts<Sample>};
+        DirectFilter filter{reverseOf(a, na), {b, sizeOf(nb)}, kParts<Sample>};
         filter.setPast(partsOf(ya), partsOf(xb));
         filter.run(partsOf(x), n, partsOf(y));
         filter.getPast(partsOf(ya), partsOf(xb));
@@ -99,10 +103,10 @@ Status filterBothWays(const double* x, std::int64_t n, const double* a, std::int
     return guarded([&] {
         checkDirect(x, n, a, na, b, nb, y);
         if (na <= 0 && nb <= 0) {
-            std::copy_n(x, n, y);
+            copySamples(x, n, y);
             return;
         }
-        DirectFilter filter{reverseOf(a, na), {b, size(nb)}, 1};
+        DirectFilter filter{reverseOf(a, na), {b, sizeOf(nb)}, 1};
         filter.run(x, n, y);
         std::reverse(y, y + n);
         filter.setPast(nullptr, nullptr);

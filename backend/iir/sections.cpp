@@ -1,6 +1,6 @@
 #include "iir/sections.h"
 
-#include "status.h"
+#include "iir/gain_account.h"
 
 #include <algorithm>
 
@@ -78,7 +78,7 @@ void store(std::span<const Real> values, std::span<double> out)
 // Rounds section after section and keeps account of the gain.
 class Rounding {
 public:
-    explicit Rounding(std::span<const AxisPoint> points) : points_{points}, errors_(points.size(), 1) {}
+    explicit Rounding(std::span<const AxisPoint> points) : reference_{points.front()}, account_{points} {}
 
     // One section out of those given. The numerator is scaled to the exact gain at the reference frequency over the
     // rounded denominator.
@@ -88,26 +88,18 @@ public:
         denominator = rounded(denominator);
         const Quartic analog = inverseBilinear(denominator);
         require(isStable(analog), Status::DesignFailed);
-        const Real factor = 1 / std::sqrt(error(sections, numerator, analog, points_.front()));
+        const Real factor = 1 / std::sqrt(error(sections, numerator, analog, reference_));
         for (Real& value : numerator)
             value *= factor;
         numerator = rounded(numerator);
-        for (std::size_t k = 0; k < points_.size(); ++k)
-            errors_[k] *= error(sections, numerator, analog, points_[k]);
+        account_.add([&](const AxisPoint& point) { return error(sections, numerator, analog, point); });
         store(std::span{denominator}.subspan(1, reverse.size()), reverse);
         store(std::span{numerator}.first(forward.size()), forward);
     }
 
-    // DesignFailed if the product of the sections is off.
-    void requireGain() const
-    {
-        for (Real squared : errors_)
-            require(std::abs(std::sqrt(squared) - 1) <= kLargestGainError, Status::DesignFailed);
-    }
+    void requireGain() const { account_.requireSmall(); }
 
 private:
-    static constexpr Real kLargestGainError = 1e-3L;
-
     // The squared gain over the exact one; the denominator is one in s already.
     static Real error(std::span<const AnalogSection> sections, const Quartic& numerator, const Quartic& denominator,
                       const AxisPoint& point)
@@ -118,8 +110,8 @@ private:
         return result;
     }
 
-    std::span<const AxisPoint> points_;
-    std::vector<Real> errors_; // squared
+    AxisPoint reference_;
+    GainAccount account_;
 };
 
 } // namespace

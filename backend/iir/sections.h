@@ -1,4 +1,4 @@
-// What a filter runs on: sections in double, all of one order D, or the direct form.
+// The coefficients of callers: sections in double, all of one order D, or the direct form.
 #pragma once
 
 #include "iir/axis.h"

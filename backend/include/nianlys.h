@@ -5,7 +5,8 @@
 // a negative status. Bad arguments are reported in this order: element count, null arrays, order or tap count,
 // frequencies, ripple, attenuation, attenuation against ripple, selectors, lengths of coefficient arrays. NaN among the
 // scalar arguments is out of range; NaN and infinity among the data flow through. Entries are reentrant: the only state
-// lies in what the caller passes (handles, state arrays) and, for AALFunc194, in the calling thread. No entry throws.
+// that shows lies in what the caller passes (handles, state arrays) and, for AALFunc194, in the calling thread. The
+// transforms of the module keep tables of recent sizes, up to 48 MB, which change no result. No entry throws.
 // Frequencies are in the unit of fs, phases in radian, ripple and attenuation in positive decibels, 2-D arrays
 // row-major. An output array may be the input array where "in place" is said, and nowhere else.
 #ifndef QUORDSP_BACKEND_NIANLYS_H
@@ -108,16 +109,15 @@ extern "C" {
 // fc, or both fl and fh: Butterworth -3.01 dB; Chebyshev and elliptic the end of the pass band (-ripple); inverse
 // Chebyshev the beginning of the stop band (-attenuation); Bessel the asymptote of the Butterworth filter of that
 // cut-off. The order is that of the low-pass prototype: band filters have twice as many poles.
-// They run on sections of 2nd order, the band filters of IirFilter on sections of 4th: the results of the two differ,
-// for edges about fs/4 in the last bits. An order above 2^20 is answered as "not enough memory". A design fails when
-// double precision cannot hold it: when its rounded sections are unstable, or when their gain is off by more than 1e-3
-// of the exact gain at the reference frequency (0; fs/2 for high-pass filters; both for band-stop, the centre for
-// band-pass filters) or at a cut-off. At the reference frequency the gain of low-pass and high-pass filters is exact
-// but for the last bits. From order 2 on, Butterworth and Bessel designs succeed with cut-offs down to about 3e-8
-// sqrt(order) fs, and up to as far from fs/2, Chebyshev and elliptic ones about 1e-7 order fs, inverse Chebyshev ones
-// as long as their pass band ends above that. Bessel filters end at order 300 (the time grows with its cube, up to a
-// third of a second), ripples and attenuations at 3080 dB; beyond, the design fails. docs/accuracy.md has what the
-// coefficients leave of the response.
+// They run on sections of 2nd order in powers of z - 1 or z + 1, whose coefficients lose nothing at low or high
+// cut-offs: of orders up to 20 and cut-offs from 1e-4 to 0.499 fs, the gain is within 1e-9 dB of the ideal one in the
+// pass band, unless a band is narrower than a two-hundredth of its centre (docs/accuracy.md). The results of
+// IIRCascadeFiltering on cascade coefficients differ by what those lose. An order above 2^20 is answered as "not enough
+// memory". A design fails when double precision cannot hold it: when its rounded sections are unstable, or when their
+// gain is off by more than 1e-3 of the exact gain at the reference frequency (0; fs/2 for high-pass filters; both for
+// band-stop, the centre for band-pass filters) or at a cut-off. Cut-offs down to 1e-150 fs and any below fs/2 succeed,
+// and bands of Butterworth filters down to a width of about 1e-11 of their centre. Bessel filters end at order 300 (the
+// time grows with its cube, up to a third of a second), ripples and attenuations at 3080 dB; beyond, the design fails.
 NIANLYS_API Status AALFunc21(const double* x, std::int64_t n, double fs, double fc, std::int32_t order,
                              double* y) noexcept; // Bw_LPF
 NIANLYS_API Status AALFunc20(const double* x, std::int64_t n, double fs, double fc, std::int32_t order,
@@ -217,10 +217,14 @@ NIANLYS_API Status AALFunc62(std::int32_t type, std::int32_t order, double fs, d
                              std::int32_t nb) noexcept; // Elp_Coef
 
 // IIR cascade coefficients into a filter of AllocIIRFilterPtr, whose type and order they follow; arms its reset flag.
-// The sections of 4th order of a band filter are sensitive to rounding: the pass band of a Butterworth filter is within
-// 1e-9 dB of the ideal one for band edges about fs/4, 1e-5 dB at 1e-3 fs, 1e-2 dB at 1e-4 fs, that of sharper families
-// less (docs/accuracy.md); below about 1e-4 fs the design may fail. The one-call filters run on sections of 2nd order
-// and keep within 1e-8 dB there. Limits of order and gain as above.
+// They are coefficients of direct form II, which feel rounding the more the lower the cut-offs: at 1e-4 fs the pass
+// band of a low-pass or high-pass filter is within 4e-9 dB of the ideal one for Butterworth, 2e-6 dB for elliptic
+// designs; of band filters, whose sections are of 4th order, 1e-5 dB at 1e-3 fs and 1e-2 dB at 1e-4 fs for Butterworth
+// designs, sharper families less (docs/accuracy.md). Designs fail as above, and that is soon: from order 2 on,
+// Butterworth and Bessel low-pass and high-pass designs succeed with cut-offs down to about 3e-8 sqrt(order) fs, and up
+// to as far from fs/2, Chebyshev and elliptic ones about 1e-7 order fs, inverse Chebyshev ones as long as their pass
+// band ends above that; band filters down to about 1e-4 fs. The gain at the reference frequency is exact but for the
+// last bits.
 NIANLYS_API Status AALFunc18(double fs, double fl, double fh, IirFilter* filter) noexcept;  // Bw_CascadeCoef
 NIANLYS_API Status AALFunc12(double fs, double fl, double fh, IirFilter* filter) noexcept;  // Bessel_CascadeCoef
 NIANLYS_API Status AALFunc471(double fs, double fl, double fh, IirFilter* filter) noexcept; // Bessel_CascadeCoefEx
@@ -255,8 +259,9 @@ NIANLYS_API Status AALFunc407(const double* x, std::int64_t n, std::int64_t left
 // FIR design by windows: h receives taps coefficients, not rescaled; HP and BS need odd taps. windType: 1 rectangular,
 // 2 triangular, 3 Hanning, 4 Hamming, 5 Blackman. window: 0..9, 11, 30..34, 60 Kaiser (parameter = beta >= 0), 61
 // Dolph-Chebyshev (parameter = side lobes, dB, > 0), 62 Gaussian (parameter = deviation / length, > 0); NaN = its
-// default. A parameter out of its range, infinity included, is an invalid selection; so is a beta that is NaN. The
-// error of a coefficient is at most 1e-15 of the largest one.
+// default. A parameter out of its range, infinity included, is an invalid selection; so is a beta that is NaN.
+// Dolph-Chebyshev windows of more than 2^23 taps are answered as "not enough memory". The error of a coefficient is at
+// most 1e-15 of the largest one.
 NIANLYS_API Status AALFunc189(double fs, double fc, std::int32_t taps, double* h,
                               std::int32_t windType) noexcept; // Wind_LPF
 NIANLYS_API Status AALFunc188(double fs, double fc, std::int32_t taps, double* h,
@@ -285,8 +290,9 @@ NIANLYS_API Status AALFunc335(std::int32_t type, double fs, double fl, double fh
 // type 3 from 0 on, an amplitude that is not finite, a weight that is not positive and finite.
 // The ripple is within 1 % of the least possible one, unless double cannot hold that one: where fewer taps already have
 // a deviation about 1e-13 of the largest amplitude, or coefficients so large that their rounding shows, these stand
-// between zeros. DesignFailed: the exchange does not settle, more than 4096 taps or 1024 bands, or weights more than
-// 1e8 apart where taps would have to be left out. Time grows with the square of the taps.
+// between zeros. DesignFailed: the exchange does not settle, within some seconds of work; more than 4096 taps or 1024
+// bands; weights more than 1e8 apart where taps would have to be left out. Time grows with the square of the taps: 1001
+// take some 30 ms, 4096 about half a second, and several times as much with many bands or weights that are far apart.
 NIANLYS_API Status AALFunc69(double fs, double f1, double f2, std::int32_t taps, double* h,
                              double* ripple) noexcept; // EquiRpl_LPF
 NIANLYS_API Status AALFunc68(double fs, double f1, double f2, std::int32_t taps, double* h,
@@ -310,10 +316,10 @@ NIANLYS_API Status AALFunc355(std::int32_t polynomialOrder, std::int32_t sidePoi
                               double* diffFilters) noexcept; // SavitzkyGolayCoef
 
 // Narrow-band FIR filters: AALFunc491 makes an empty record or returns null, AALFunc409 designs into it, AALFunc492
-// frees it and its two arrays and ignores null. passBand and stopBand are widths; ripple is linear; centerFrequency is
-// read for types 2 and 3 only, which are stored with interpolation 1 and one image tap. The model and the suppressor
-// have at most 4096 taps each, a filter of types 2 and 3 at most 2^20; beyond, and where a deviation below about 1e-13
-// is asked for, the design fails. All lengths are odd.
+// frees it and its two arrays and ignores null. passBand and stopBand are widths; ripple is linear; centerFrequency,
+// which is in 0..fs/2 for all types, matters to types 2 and 3 only, which are stored with interpolation 1 and one image
+// tap. The model and the suppressor have at most 4096 taps each, a filter of types 2 and 3 at most 2^20; beyond, where
+// a deviation below about 1e-13 is asked for, and after some seconds of work the design fails. All lengths are odd.
 NIANLYS_API FirFilter* AALFunc491() noexcept;            // AllocFIRFilterPtr
 NIANLYS_API void AALFunc492(FirFilter* filter) noexcept; // FreeFIRFilterPtr
 NIANLYS_API Status AALFunc409(double fs, double passBand, double stopBand, double centerFrequency, double ripple,
@@ -323,7 +329,7 @@ NIANLYS_API Status AALFunc409(double fs, double passBand, double stopBand, doubl
 // the same bits however the signal is cut into blocks and for real signals and parts of complex ones; state = the last
 // taps - 1 inputs, newest last; null means zeros, and taps <= 0 copies. Subnormal numbers count as 0. The designing
 // ones start from zero state; from 192 taps on, and when taps times samples are 3 million or more, they work by Fourier
-// transforms, within 1e-12 sum |h| max |x| of those sums. Savitzky-Golay filters need n >= F.
+// transforms, within 1e-12 sum |h| max |x|, or 1e-298, of those sums. Savitzky-Golay filters need n >= F.
 NIANLYS_API Status AALFunc352(const double* x, std::int64_t n, const double* h, double* state, std::int32_t taps,
                               double* y) noexcept; // FIRFiltering
 NIANLYS_API Status AALFunc353(const Complex* x, std::int64_t n, const double* h, Complex* state, std::int32_t taps,
@@ -430,7 +436,8 @@ NIANLYS_API Status AALFunc5(const double* x, std::int64_t n, std::int32_t unwrap
 // thread, or begins one if there is none; another width or polarity is then StateNotInitialized. A refused call (and
 // one without memory) has taken nothing: the same block may follow. Between blocks a thread holds 17 KB, from width
 // 1025 on 35 KB and up to 9 bytes a sample of width; endOfData and the end of the thread free it. A call needs no more
-// than 12 n bytes besides. The three arrays have *count values, also if it is 0; the caller frees each with AALFunc238.
+// than 12 n + 24 bytes besides. The three arrays have *count values, also if it is 0; the caller frees each with
+// AALFunc238.
 NIANLYS_API Status AALFunc120(const double* x, std::int64_t n, double* max, std::int64_t* maxIndex, double* min,
                               std::int64_t* minIndex) noexcept;                                             // MaxMin1D
 NIANLYS_API Status AALFunc160(const double* x, std::int64_t n, std::int32_t direction, double* y) noexcept; // Sort

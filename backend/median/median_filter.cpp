@@ -6,6 +6,7 @@
 #include "median/sliding_median.h"
 #include "status.h"
 
+#include <algorithm>
 #include <limits>
 #include <optional>
 #include <utility>
@@ -101,6 +102,16 @@ void filter(const double* x, std::size_t n, const Window& window, double* y)
     }
 }
 
+// For windows of more than twice the signal: more than half of each is zeros, and it reaches back to the first sample.
+void clear(const double* x, std::size_t n, const Window& window, double* y)
+{
+    const double* const firstNaN = std::find_if(x, x + n, [](double value) { return value != value; });
+    const auto place = static_cast<std::size_t>(firstNaN - x);
+    const std::size_t medians = place == n ? n : place - std::min(place, window.right);
+    std::fill_n(y, medians, 0.0);
+    std::fill(y + medians, y + n, std::numeric_limits<double>::quiet_NaN());
+}
+
 } // namespace
 
 void medianFilter(const double* x, std::int64_t n, std::int64_t leftRank, std::int64_t rightRank, double* y)
@@ -109,10 +120,9 @@ void medianFilter(const double* x, std::int64_t n, std::int64_t leftRank, std::i
     requireArrays(x, y);
     const std::int64_t right = rightRank < 0 ? leftRank : rightRank;
     require(leftRank >= 0 && right < n, Status::Rank);
-    // With 2 n samples in front of the current one, more than half of every window is 0, and yet more make no
-    // difference.
     const auto count = static_cast<std::size_t>(n);
-    filter(x, count, {std::min(static_cast<std::size_t>(leftRank), 2 * count), static_cast<std::size_t>(right)}, y);
+    const Window window{static_cast<std::size_t>(leftRank), static_cast<std::size_t>(right)};
+    (window.length() > 2 * count ? clear : filter)(x, count, window, y);
 }
 
 } // namespace quordsp::backend

@@ -22,20 +22,22 @@ namespace quordsp::backend {
 
 namespace {
 
-using Key [[gnu::may_alias]] = std::uint64_t; // the caller's array serves as scratch memory
-constexpr Key kSignBit = Key{1} << 63;
+// Keys may stand in the caller's array of doubles, which serves as scratch memory. A type of their own: templates do
+// not see the attribute of another name for integers.
+enum [[gnu::may_alias]] Key : std::uint64_t {};
+constexpr std::uint64_t kSignBit = std::uint64_t{1} << 63;
 
 // descending: all ones or zero.
-Key keyOf(double value, Key descending)
+Key keyOf(double value, std::uint64_t descending)
 {
-    const auto bits = std::bit_cast<Key>(value);
-    return (bits & kSignBit ? ~bits : bits | kSignBit) ^ descending;
+    const auto bits = std::bit_cast<std::uint64_t>(value);
+    return Key{(bits & kSignBit ? ~bits : bits | kSignBit) ^ descending};
 }
 
-double valueOf(Key key, Key descending)
+double valueOf(Key key, std::uint64_t descending)
 {
-    key ^= descending;
-    return std::bit_cast<double>(key & kSignBit ? key ^ kSignBit : ~key);
+    const std::uint64_t bits = key ^ descending;
+    return std::bit_cast<double>(bits & kSignBit ? bits ^ kSignBit : ~bits);
 }
 
 constexpr std::size_t kFewKeys = 128;                   // for which the digits do not pay
@@ -131,7 +133,7 @@ void sortInto(Key* keys, std::size_t n, Key* scratch, Key* target)
         std::copy(keys, keys + (target == keys ? 0 : n), target);
         return;
     }
-    Key varying = 0;
+    std::uint64_t varying = 0;
     for (std::size_t i = 0; i < n; ++i)
         varying |= keys[i] ^ keys[0];
     const auto varyingBits = static_cast<int>(std::bit_width(varying));
@@ -158,7 +160,7 @@ void sort(const double* x, std::int64_t n, std::int32_t direction, double* y)
     requirePositiveCount(n);
     requireArrays(x, y);
     const auto count = static_cast<std::size_t>(n);
-    const Key descending = direction == 0 ? 0 : ~Key{0};
+    const std::uint64_t descending = direction == 0 ? 0 : ~std::uint64_t{0};
     const auto buffer = makeBuffer<Key>(count); // keys from the front, zeros and NaN from the back
     Key* keysEnd = buffer.get();
     Key* aside = buffer.get() + count;

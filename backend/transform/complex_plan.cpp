@@ -10,7 +10,7 @@ namespace quordsp::backend {
 namespace {
 
 // From here on the arrays of a transform no longer fit into a near cache.
-constexpr std::size_t kLarge = 1 << 15;
+constexpr std::size_t kLarge = 1 << 16;
 
 } // namespace
 
@@ -20,7 +20,7 @@ std::unique_ptr<const ComplexPlan> makeComplexPlan(std::size_t n, std::size_t la
         throw std::bad_alloc();
     const Factors factors = factorized(n);
     if (factors.rest != 1)
-        return std::make_unique<Chirp>(n, lanes);
+        return std::make_unique<Chirp>(n, n, n, lanes);
     if (lanes == 1 && n >= kLarge && FourStep::suits(n))
         return std::make_unique<FourStep>(n);
     return std::make_unique<MixedRadix>(n, lanes);

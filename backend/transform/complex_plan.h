@@ -19,8 +19,11 @@ public:
 
     // Unscaled. out is either in, of the same kind, or does not overlap it. Fastest if work starts a
     // cache line.
-    virtual void forward(ConstSplit in, Split out, double* work) const = 0;
-    void inverse(ConstSplit in, Split out, double* work) const { forward(exchanged(in), exchanged(out), work); }
+    virtual void forward(const ConstSplit& in, const Split& out, double* work) const = 0;
+    void inverse(const ConstSplit& in, const Split& out, double* work) const
+    {
+        forward(exchanged(in), exchanged(out), work);
+    }
 };
 
 // The fastest plan of a kind for n >= 1. Throws std::bad_alloc, also for an n so large that computing with it would
@@ -34,7 +37,7 @@ public:
 
     std::size_t tableSize() const { return plan_->tableSize(); }
     std::size_t workSize() const { return plan_->workSize(); }
-    void forward(ConstSplit in, Split out, double* work) const { plan_->forward(in, out, work); }
+    void forward(const ConstSplit& in, const Split& out, double* work) const { plan_->forward(in, out, work); }
 
 private:
     std::unique_ptr<const ComplexPlan> plan_;

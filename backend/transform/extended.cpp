@@ -1,11 +1,11 @@
 #include "transform/extended.h"
 
 #include "status.h"
+#include "transform/division.h"
 #include "transform/fft_table.h"
 #include "transform/interleaved.h"
 #include "transform/order.h"
 #include "transform/prepared.h"
-#include "transform/split_buffer.h"
 
 #include <algorithm>
 
@@ -34,58 +34,42 @@ void extendedFft(const double* x, std::int64_t n, std::int64_t size, const FftTa
 {
     const auto [used, points] = checkedSizes(x, n, size, y);
     const Prepared<RealPlan> transform(points, realPlanOf(table, points));
-    const Buffer<> padded = makeBuffer(used < points ? points : 0);
-    if (used < points)
-        std::fill_n(std::copy_n(x, used, padded.get()), points - used, 0.0);
-    const SplitBuffer bins(points / 2 + 1);
-    transform.forward(used < points ? padded.get() : x, bins.get());
-
-    const BinOrder order(points, shift);
-    for (std::size_t k = 0; k <= points / 2; ++k)
-        y[order.placeOf(k)] = complexOf(bins.get()[k]);
-    for (std::size_t k = points / 2 + 1; k < points; ++k)
-        y[order.placeOf(k)] = complexOf(conjugate(bins.get()[points - k]));
+    transform.forward(inputOf(x, 1, used, points, y), splitOf(y));
+    completeSpectrum(splitOf(y), points);
+    if (shift)
+        shiftBins(y, points);
 }
 
 void extendedFft(const Complex* x, std::int64_t n, std::int64_t size, const FftTable* table, bool shift, Complex* y)
 {
     const auto [used, points] = checkedSizes(x, n, size, y);
     const Prepared<ComplexPlan> transform(points, complexPlanOf(table, points));
-    const SplitBuffer bins(points);
-    separate(x, used, bins);
-    for (std::size_t i = used; i < points; ++i)
-        bins.get().set(i, {0, 0});
-    transform.forward(bins.get(), bins.get());
-
-    const BinOrder order(points, shift);
-    for (std::size_t k = 0; k < points; ++k)
-        y[order.placeOf(k)] = complexOf(bins.get()[k]);
+    transform.forward(inputOf(x, 1, used, points, y), splitOf(y));
+    if (shift)
+        shiftBins(y, points);
 }
 
 void extendedInverseFft(const Complex* x, std::int64_t n, const FftTable* table, bool shifted, double* y)
 {
     const std::size_t points = checkedSizes(x, n, n, y).points;
     const Prepared<RealPlan> transform(points, realPlanOf(table, points));
-    const SplitBuffer bins(points / 2 + 1);
-    const BinOrder order(points, shifted);
-    for (std::size_t k = 0; k <= points / 2; ++k)
-        bins.get().set(k, pointOf(x[order.placeOf(k)]));
-    transform.inverse(ConstSplit(bins), y);
-    for (std::size_t i = 0; i < points; ++i)
-        y[i] /= static_cast<double>(points);
+    if (shifted)
+        transform.inverse(splitOf(x + centreOf(points)), x[0].real, y);
+    else
+        transform.inverse(splitOf(x), y);
+    divide(y, points, points);
 }
 
 void extendedInverseFft(const Complex* x, std::int64_t n, const FftTable* table, bool shifted, Complex* y)
 {
     const std::size_t points = checkedSizes(x, n, n, y).points;
     const Prepared<ComplexPlan> transform(points, complexPlanOf(table, points));
-    const SplitBuffer values(points);
-    const BinOrder order(points, shifted);
-    for (std::size_t k = 0; k < points; ++k)
-        values.get().set(k, pointOf(x[order.placeOf(k)]));
-    transform.inverse(ConstSplit(values), values.get());
-    for (std::size_t i = 0; i < points; ++i)
-        y[i] = complexOf(values.get()[i] / static_cast<double>(points));
+    if (shifted) {
+        copyUnshifted(x, points, y);
+        x = y;
+    }
+    transform.inverse(splitOf(x), splitOf(y));
+    divide(partsOf(y), 2 * points, points);
 }
 
 } // namespace quordsp::backend

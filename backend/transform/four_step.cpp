@@ -87,7 +87,7 @@ void FourStep::transformRows(ConstSplit turned, Split out, double* work) const
     });
 }
 
-void FourStep::forward(ConstSplit in, Split out, double* work) const
+void FourStep::forward(const ConstSplit& in, const Split& out, double* work) const
 {
     Work arrays(work);
     const Split turned = arrays.take(n_);

@@ -18,7 +18,7 @@ public:
 
     std::size_t tableSize() const override;
     std::size_t workSize() const override;
-    void forward(ConstSplit in, Split out, double* work) const override;
+    void forward(const ConstSplit& in, const Split& out, double* work) const override;
 
 private:
     void transformColumns(ConstSplit in, Split turned, double* work) const;

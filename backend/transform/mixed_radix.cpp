@@ -3,7 +3,6 @@
 #include "transform/roots.h"
 
 #include <bit>
-#include <utility>
 
 namespace quordsp::backend {
 
@@ -52,6 +51,8 @@ MixedRadix::MixedRadix(std::size_t n, std::size_t lanes) : n_(n), lanes_(lanes)
         pass.stride = stride;
         pass.groups = n * lanes / (stride * radix);
         pass.length = lanes > 1 ? lanes : stride;
+        pass.rows = stride / pass.length;
+        pass.pitch = lanes > 1 ? 0 : stride;
         (isNarrow(pass) ? chooseNarrow : pass.groups > 1 ? chooseWide : chooseLast)(pass);
         passes_.push_back(pass);
         stride *= radix;
@@ -101,28 +102,34 @@ void MixedRadix::copyRows(ConstSplit from, Split to) const
             to.set(i * to.pitch + lane, from[i * from.pitch + lane]);
 }
 
+void MixedRadix::forwardInOnePass(const ConstSplit& in, const Split& out, double* work) const
+{
+    const Pass& pass = passes_.front();
+    if (lanes_ > 1 && in.step > 1) {
+        const Split copy = Work(work).take(n_ * lanes_);
+        copyRows(in, copy);
+        return forwardInOnePass(copy, out, nullptr);
+    }
+    (out.step == 1 ? pass.ofSplit : pass.ofInterleaved)(pass, in, out);
+}
+
 // All intermediate results are in work. Only the first pass reads interleaved arrays, and only the last one writes any;
 // a single pass over rows does not do both.
-void MixedRadix::forward(ConstSplit in, Split out, double* work) const
+void MixedRadix::forward(const ConstSplit& in, const Split& out, double* work) const
 {
-    Work arrays(work);
-    Split target = arrays.take(n_ * lanes_), other = arrays.take(n_ * lanes_);
     if (passes_.empty())
         return copyRows(in, out);
-    ConstSplit source = in;
-    if (passes_.size() == 1 && lanes_ > 1 && in.step > 1) {
-        copyRows(in, other);
-        source = other;
-    }
-    for (const Pass& pass : passes_) {
-        const bool isLast = &pass == &passes_.back();
-        Split y = isLast ? out : target;
-        if (lanes_ == 1)
-            source.pitch = y.pitch = pass.length;
-        ((isLast ? y.step : source.step) == 1 ? pass.ofSplit : pass.ofInterleaved)(pass, source, y);
-        source = target;
-        std::swap(target, other);
-    }
+    if (passes_.size() == 1)
+        return forwardInOnePass(in, out, work);
+    Work arrays(work);
+    const Split a = arrays.take(n_ * lanes_), b = arrays.take(n_ * lanes_);
+    const ConstSplit fromA = a, fromB = b;
+    const Pass *pass = &passes_.front(), *const last = &passes_.back();
+    (in.step == 1 ? pass->ofSplit : pass->ofInterleaved)(*pass, in, a);
+    bool isInA = true;
+    for (++pass; pass != last; ++pass, isInA = !isInA)
+        pass->ofSplit(*pass, isInA ? fromA : fromB, isInA ? b : a);
+    (out.step == 1 ? last->ofSplit : last->ofInterleaved)(*last, isInA ? fromA : fromB, out);
 }
 
 } // namespace quordsp::backend

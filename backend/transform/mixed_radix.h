@@ -24,10 +24,11 @@ public:
 
     std::size_t tableSize() const override { return tableSize_; }
     std::size_t workSize() const override { return 2 * Work::sizeOf(n_ * lanes_); }
-    void forward(ConstSplit in, Split out, double* work) const override;
+    void forward(const ConstSplit& in, const Split& out, double* work) const override;
 
 private:
     void makeTables();
+    void forwardInOnePass(const ConstSplit& in, const Split& out, double* work) const;
     void copyRows(ConstSplit from, Split to) const;
 
     std::size_t n_;

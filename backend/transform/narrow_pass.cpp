@@ -9,35 +9,42 @@ namespace quordsp::backend {
 
 namespace {
 
-// Lane by lane: output j of lane i belongs at [i / stride][j][i % stride].
+// Where lane i belongs: output j at [i / stride][j][i % stride].
+struct Place {
+    std::size_t group;
+    std::size_t within;
+};
+
+// Lane by lane; place is that of the first, and then that of the lane after the last.
 template <std::size_t R, std::size_t W>
-[[gnu::always_inline]] inline void scatter(const Pass& pass, const Points<Vector<W>, kCapacity<R>>& a,
-                                           std::size_t first, const Split& y)
+[[gnu::always_inline]] inline void scatter(const Pass& pass, const Points<Vector<W>, kCapacity<R>>& a, Place& place,
+                                           const Split& y)
 {
     const std::size_t radix = radixOf<R>(pass);
-    std::size_t within = first % pass.stride;
-    Split target = y + (first / pass.stride) * radix * pass.stride;
     double re[kCapacity<R>][W], im[kCapacity<R>][W];
     for (std::size_t j = 0; j < radix; ++j)
         storeSplit<W>(a[j], re[j], im[j]);
     for (std::size_t lane = 0; lane < W; ++lane) {
+        const Split target = y + (place.group * radix * pass.stride + place.within);
         for (std::size_t j = 0; j < radix; ++j) {
-            target.re[j * pass.stride + within] = re[j][lane];
-            target.im[j * pass.stride + within] = im[j][lane];
+            target.re[j * pass.stride] = re[j][lane];
+            target.im[j * pass.stride] = im[j][lane];
         }
-        if (++within == pass.stride) {
-            within = 0;
-            target = target + radix * pass.stride;
-        }
+        if (++place.within == pass.stride)
+            place = {place.group + 1, 0};
     }
 }
 
 template <std::size_t W, std::size_t R, bool kInterleaved>
-[[gnu::always_inline]] inline void narrowPass(const Pass& pass, ConstSplit x, Split y) noexcept
+[[gnu::always_inline]] inline void narrowPass(const Pass& pass, const ConstSplit& from, const Split& to) noexcept
 {
+    const ConstSplit x = from; // lest they are read again after every value that is written
+    const Split y = to;
     const std::size_t count = pass.groups * pass.stride;
     const std::size_t radix = radixOf<R>(pass);
     const ConstSplit twiddles = pass.laneTwiddles;
+    Place place = {};
+#pragma clang loop vectorize(disable) // it is as wide as it should be
     for (std::size_t i = 0; i < count; i += W) {
         const std::size_t first = std::min(i, count - W);
         Points<Vector<W>, kCapacity<R>> a;
@@ -52,7 +59,9 @@ template <std::size_t W, std::size_t R, bool kInterleaved>
                 continue;
             }
         }
-        scatter<R, W>(pass, a, first, y);
+        if (first != i)
+            place = {first / pass.stride, first % pass.stride};
+        scatter<R, W>(pass, a, place, y);
     }
 }
 
@@ -63,6 +72,10 @@ void chooseNarrow(Pass& pass)
     withRadix(pass.radix, [&]<std::size_t R>() {
         if (pass.groups * pass.stride < kWideStride) {
             pass.ofSplit = pass.ofInterleaved = narrowPass<1, R, false>;
+        } else if (pass.groups * pass.stride < kFullyWideStride) {
+            pass.ofSplit = forThisMachine<narrowPass<2, R, false>, narrowPass<4, R, false>, narrowPass<4, R, false>>();
+            pass.ofInterleaved =
+                forThisMachine<narrowPass<2, R, true>, narrowPass<4, R, true>, narrowPass<4, R, true>>();
         } else {
             pass.ofSplit = forThisMachine<narrowPass<2, R, false>, narrowPass<4, R, false>, narrowPass<8, R, false>>();
             pass.ofInterleaved =

@@ -2,20 +2,27 @@
 // centre: for an even size the first bin is the one at half the sampling rate, for an odd size the most negative one.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 
 namespace quordsp::backend {
 
-class BinOrder {
-public:
-    BinOrder(std::size_t n, bool shifted) : n_(n), centre_(shifted ? n / 2 : 0) {}
+// Where frequency 0 stands.
+inline std::size_t centreOf(std::size_t n)
+{
+    return n / 2;
+}
 
-    // Where bin k stands.
-    std::size_t placeOf(std::size_t k) const { return k < n_ - centre_ ? k + centre_ : k + centre_ - n_; }
+template <class Bin>
+void shiftBins(Bin* y, std::size_t n)
+{
+    std::rotate(y, y + (n - centreOf(n)), y + n);
+}
 
-private:
-    std::size_t n_;
-    std::size_t centre_;
-};
+template <class Bin>
+void copyUnshifted(const Bin* x, std::size_t n, Bin* y)
+{
+    std::rotate_copy(x, x + centreOf(n), x + n, y);
+}
 
 } // namespace quordsp::backend

@@ -16,7 +16,7 @@ namespace quordsp::backend {
 
 // The radix of a kernel: R, or that of the pass if R is 0.
 template <std::size_t R>
-[[gnu::always_inline]] inline std::size_t radixOf(const Pass& pass)
+[[gnu::always_inline]] inline std::size_t radixOf(const auto& pass)
 {
     return R > 0 ? R : pass.radix;
 }
@@ -49,7 +49,7 @@ template <class V>
 }
 
 template <std::size_t R, class V>
-[[gnu::always_inline]] inline void apply(const Pass& pass, Points<V, kCapacity<R>>& a)
+[[gnu::always_inline]] inline void apply(const auto& pass, Points<V, kCapacity<R>>& a)
 {
     if constexpr (R > 0)
         Butterfly<R>::apply(a);

@@ -9,11 +9,12 @@ namespace quordsp::backend {
 
 inline constexpr std::size_t kLargestPrimeRadix = 61;
 
-// A stride from which a pass runs over it with vectors.
-inline constexpr std::size_t kWideStride = 8;
+// A stride from which a pass runs over it with vectors, and one from which they may be of any width.
+inline constexpr std::size_t kWideStride = 4;
+inline constexpr std::size_t kFullyWideStride = 8;
 
 struct Pass;
-using PassFunction = void (*)(const Pass& pass, ConstSplit x, Split y) noexcept;
+using PassFunction = void (*)(const Pass& pass, const ConstSplit& x, const Split& y) noexcept;
 
 // Reads x and writes y, which do not overlap. But a last pass may run in place, if it is the only one.
 struct Pass {
@@ -21,6 +22,8 @@ struct Pass {
     std::size_t stride; // lanes times the product of the radices before
     std::size_t groups; // product of the radices to come
     std::size_t length; // of a row: what of a stride is contiguous in x and y
+    std::size_t rows;   // of a stride
+    std::size_t pitch;  // from one row to the next, or 0: as x and y have it
     PassFunction ofSplit;
     PassFunction ofInterleaved;
 

@@ -40,6 +40,8 @@ public:
         return nullptr;
     }
     void unpin() { users_.fetch_sub(1, std::memory_order_release); }
+    // As far as anybody can tell who has no lock.
+    bool isEmpty() const { return n_.load(std::memory_order_relaxed) == 0; }
 
     // Puts a plan for n, or none, in the place of the one that was there, and pins it; or fails, for the slot has
     // users.
@@ -64,40 +66,50 @@ private:
     SharedPlan<Plan>* plan_ = nullptr;
 };
 
+struct Unpin {
+    void operator()(auto* slot) const { slot->unpin(); }
+};
+
+// A plan, and what keeps it: a slot that is pinned, or its only owner. Or neither: somebody else does.
+template <class Plan>
+struct Lease {
+    SharedPlan<Plan>* plan;
+    std::unique_ptr<PlanSlot<Plan>, Unpin> slot = nullptr;
+    OwnPlan<Plan> own = nullptr;
+};
+
 template <class Plan>
 class PlanCache {
 public:
-    struct Lease {
-        SharedPlan<Plan>* plan;
-        PlanSlot<Plan>* slot; // to be unpinned, or null
-        OwnPlan<Plan> own;    // or null
-    };
-
     // Throws std::bad_alloc.
-    Lease lease(std::size_t n)
+    Lease<Plan> lease(std::size_t n)
     {
         PlanSlot<Plan>* const slots = slots_[n * kGolden >> (64 - kSetBits)];
         for (std::size_t way = 0; way < kWays; ++way)
             if (auto* const plan = slots[way].pin(n))
-                return {plan, &slots[way], nullptr};
-        auto own = std::make_unique<SharedPlan<Plan>>(n);
-        SharedPlan<Plan>* const plan = own.get();
-        const std::size_t size = plan->size();
-        if (reserve(size)) {
-            const std::size_t turn = turn_.fetch_add(1, std::memory_order_relaxed);
-            for (std::size_t i = 0; i < kWays; ++i) {
-                PlanSlot<Plan>& slot = slots[(turn + i) % kWays];
-                if (slot.exchange(n, own)) {
-                    release(own);
-                    return {plan, &slot, nullptr};
-                }
-            }
-            held_.fetch_sub(size, std::memory_order_relaxed);
-        }
-        return {plan, nullptr, std::move(own)};
+                return {.plan = plan, .slot{&slots[way]}};
+        return keep(n, std::make_unique<SharedPlan<Plan>>(n), slots);
     }
 
 private:
+    [[gnu::noinline]] Lease<Plan> keep(std::size_t n, OwnPlan<Plan> own, PlanSlot<Plan>* slots)
+    {
+        SharedPlan<Plan>* const plan = own.get();
+        const std::size_t size = plan->size();
+        if (!reserve(size))
+            return {.plan = plan, .own = std::move(own)};
+        const std::size_t turn = turn_.fetch_add(1, std::memory_order_relaxed);
+        for (const bool occupied : {false, true})
+            for (std::size_t i = 0; i < kWays; ++i) {
+                PlanSlot<Plan>& slot = slots[(turn + i) % kWays];
+                if (slot.isEmpty() != occupied && slot.exchange(n, own)) {
+                    release(own);
+                    return {.plan = plan, .slot{&slot}};
+                }
+            }
+        held_.fetch_sub(size, std::memory_order_relaxed);
+        return {.plan = plan, .own = std::move(own)};
+    }
     bool reserve(std::size_t size)
     {
         if (size > SharedPlan<Plan>::kLarge)

@@ -11,38 +11,29 @@ class Prepared {
 public:
     // fitting: a plan for n that the caller has, or null. Throws std::bad_alloc.
     explicit Prepared(std::size_t n, SharedPlan<Plan>* fitting = nullptr)
-        : lease_(fitting ? Lease{fitting, nullptr, nullptr} : planCache<Plan>.lease(n))
-    {
-        try {
-            work_ = lease_.plan->takeWork();
-        } catch (...) {
-            unpin();
-            throw;
-        }
-    }
+        : lease_(fitting ? Lease<Plan>{fitting} : planCache<Plan>.lease(n)),
+          large_(lease_.plan->workSize() > kSmall ? lease_.plan->takeWork() : nullptr)
+    {}
     Prepared(const Prepared&) = delete;
     Prepared& operator=(const Prepared&) = delete;
     ~Prepared()
     {
-        lease_.plan->giveBack(std::move(work_));
-        unpin();
+        if (large_)
+            lease_.plan->giveBack(std::move(large_));
     }
 
-    const Plan& plan() const { return lease_.plan->plan(); }
-    void forward(auto in, auto out) const { lease_.plan->plan().forward(in, out, lineStart(work_.get())); }
-    void inverse(auto in, auto out) const { lease_.plan->plan().inverse(in, out, lineStart(work_.get())); }
+    void forward(const auto&... arrays) const { lease_.plan->plan().forward(arrays..., work()); }
+    void inverse(const auto&... arrays) const { lease_.plan->plan().inverse(arrays..., work()); }
 
 private:
-    using Lease = typename PlanCache<Plan>::Lease;
+    // What a plan may work in without any allocation: 8 KB.
+    static constexpr std::size_t kSmall = 1024;
 
-    void unpin()
-    {
-        if (lease_.slot)
-            lease_.slot->unpin();
-    }
+    double* work() const { return large_ ? lineStart(large_.get()) : small_; }
 
-    Lease lease_;
-    Buffer<> work_;
+    Lease<Plan> lease_;
+    Buffer<> large_;
+    alignas(kCacheLine) mutable double small_[kSmall];
 };
 
 } // namespace quordsp::backend

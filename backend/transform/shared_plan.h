@@ -17,18 +17,19 @@ public:
     static constexpr std::size_t kLarge = std::size_t{1} << 20;
 
     // Throws std::bad_alloc.
-    explicit SharedPlan(std::size_t n) : plan_(makePlan<Plan>(n)) {}
+    explicit SharedPlan(std::size_t n) : plan_(makePlan<Plan>(n)), workSize_(plan_->workSize()) {}
     ~SharedPlan() { delete[] spare_.load(std::memory_order_relaxed); }
 
     const Plan& plan() const { return *plan_; }
-    std::size_t size() const { return plan_->tableSize() + (keepsWork() ? plan_->workSize() : 0); }
+    std::size_t size() const { return plan_->tableSize() + (keepsWork() ? workSize_ : 0); }
+    std::size_t workSize() const { return workSize_; }
 
     // Throws std::bad_alloc.
     Buffer<> takeWork()
     {
         if (double* const spare = spare_.exchange(nullptr, std::memory_order_acquire))
             return Buffer<>(spare);
-        return makeBuffer(plan_->workSize() + kDoublesPerLine);
+        return makeBuffer(workSize_ + kDoublesPerLine);
     }
     void giveBack(Buffer<> work)
     {
@@ -38,9 +39,10 @@ public:
     }
 
 private:
-    bool keepsWork() const { return plan_->tableSize() + plan_->workSize() <= kLarge; }
+    bool keepsWork() const { return plan_->tableSize() + workSize_ <= kLarge; }
 
     std::unique_ptr<const Plan> plan_;
+    std::size_t workSize_;
     std::atomic<double*> spare_{nullptr};
 };
 

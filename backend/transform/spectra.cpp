@@ -72,8 +72,7 @@ void powerSpectrum(const Complex* x, std::int64_t n, double* s)
     const auto count = static_cast<std::size_t>(n);
     const SplitBuffer bins(count);
     const Prepared<ComplexPlan> transform(count);
-    separate(x, count, bins);
-    transform.forward(bins.get(), bins.get());
+    transform.forward(splitOf(x), bins.get());
     for (std::size_t k = 0; k < count; ++k)
         s[k] = squared(bins.get()[k] / static_cast<double>(count));
 }

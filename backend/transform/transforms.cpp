@@ -1,19 +1,12 @@
 #include "transform/transforms.h"
 
 #include "status.h"
+#include "transform/division.h"
 #include "transform/prepared.h"
 
 namespace quordsp::backend {
 
 namespace {
-
-// Dividing rounds once, which multiplying by 1/n would not.
-void divide(double* x, std::size_t n)
-{
-    const auto divisor = static_cast<double>(n);
-    for (std::size_t i = 0; i < n; ++i)
-        x[i] /= divisor;
-}
 
 std::size_t checkedCount(const double* re, const double* im, std::int64_t n)
 {
@@ -38,25 +31,23 @@ void inverseFft(double* re, double* im, std::int64_t n)
 {
     const std::size_t count = checkedCount(re, im, n);
     transformInPlace(exchanged(Split{re, im}), count);
-    divide(re, count);
-    divide(im, count);
+    divide(re, count, count);
+    divide(im, count, count);
 }
 
 void realFft(double* re, double* im, std::int64_t n)
 {
     const std::size_t count = checkedCount(re, im, n);
-    Prepared<RealPlan>(count).forward(re, Split{re, im});
-    for (std::size_t k = count / 2 + 1; k < count; ++k) {
-        re[k] = re[count - k];
-        im[k] = -im[count - k];
-    }
+    const Split spectrum = {re, im};
+    Prepared<RealPlan>(count).forward(re, spectrum);
+    completeSpectrum(spectrum, count);
 }
 
 void inverseRealFft(double* re, const double* im, std::int64_t n)
 {
     const std::size_t count = checkedCount(re, im, n);
     Prepared<RealPlan>(count).inverse(ConstSplit{re, im}, re);
-    divide(re, count);
+    divide(re, count, count);
 }
 
 } // namespace quordsp::backend

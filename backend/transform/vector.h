@@ -44,20 +44,32 @@ template <std::size_t W>
 
 } // namespace vector
 
+template <class V>
+[[gnu::always_inline]] inline void loadReal(const double* x, V& value)
+{
+    __builtin_memcpy(&value, x, sizeof value);
+}
+
+template <class V>
+[[gnu::always_inline]] inline void storeReal(const V& value, double* y)
+{
+    __builtin_memcpy(y, &value, sizeof value);
+}
+
 template <std::size_t W>
 [[gnu::always_inline]] inline Point<Vector<W>> loadSplit(const double* re, const double* im)
 {
     Point<Vector<W>> value;
-    __builtin_memcpy(&value.re, re, sizeof value.re);
-    __builtin_memcpy(&value.im, im, sizeof value.im);
+    loadReal(re, value.re);
+    loadReal(im, value.im);
     return value;
 }
 
 template <std::size_t W>
 [[gnu::always_inline]] inline void storeSplit(Point<Vector<W>> value, double* re, double* im)
 {
-    __builtin_memcpy(re, &value.re, sizeof value.re);
-    __builtin_memcpy(im, &value.im, sizeof value.im);
+    storeReal(value.re, re);
+    storeReal(value.im, im);
 }
 
 // Of an interleaved array; the imaginary parts may come first.

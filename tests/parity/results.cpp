@@ -1,96 +1,39 @@
 #include "parity/results.h"
 
-#include <algorithm>
-#include <cmath>
 #include <fstream>
 #include <sstream>
 
-#include "support/integer_signal.h"
+#include "parity/fingerprint.h"
 
 namespace quordsp::parity {
 namespace {
 
-// How far two systems may be apart. exp, log, sin and the like differ by a unit in the last place from one run-time to
-// another; the designs take them in long double, so that no result needs more than this.
-constexpr double kTolerance = 1e-13;
-
-// One number of a digest, and what its differences are relative to.
-struct Number {
-    double value;
-    double size;
-};
-
-// A single value is its own digest.
-std::vector<Number> numbersOf(const std::vector<double>& values)
-{
-    if (values.size() == 1)
-        return {{values[0], std::abs(values[0])}};
-    Number largest{}, first{}, second{};
-    const std::vector<double> weights[] = {noise(values.size(), 101), noise(values.size(), 102)};
-    for (std::size_t i = 0; i < values.size(); ++i) {
-        const double size = std::abs(values[i]);
-        largest.value = largest.size = std::max(largest.size, size);
-        first.value += weights[0][i] * values[i];
-        first.size += std::abs(weights[0][i]) * size;
-        second.value += weights[1][i] * values[i];
-        second.size += std::abs(weights[1][i]) * size;
-    }
-    return {largest, first, second};
-}
-
-struct Digest {
-    std::size_t count;
-    std::size_t notFinite;
-    std::vector<Number> numbers;
-};
-
-// Values that are not finite are left out of the numbers.
-Digest digestOf(const std::vector<double>& values)
-{
-    std::vector<double> finite = values;
-    const auto notFinite = std::erase_if(finite, [](double value) { return !std::isfinite(value); });
-    return {values.size(), notFinite, finite.empty() ? std::vector<Number>{} : numbersOf(finite)};
-}
-
 std::string textOf(const Outcome& outcome)
 {
     std::ostringstream text;
-    text.precision(17);
     text << outcome.status;
-    for (const Output& output : outcome.outputs) {
-        const Digest digest = digestOf(output.values);
-        text << ' ' << output.letter << ' ' << digest.count << ' ' << digest.notFinite;
-        for (const Number& number : digest.numbers)
-            text << ' ' << number.value;
-    }
+    for (const Output& output : outcome.outputs)
+        text << ' ' << output.letter << ' ' << fingerprintOf(output.values);
     return text.str();
 }
 
-bool agree(const Output& here, std::istream& stored)
-{
-    char letter = 0;
-    std::size_t count = 0, notFinite = 0;
-    const Digest digest = digestOf(here.values);
-    if (!(stored >> letter >> count >> notFinite) || letter != here.letter || count != digest.count ||
-        notFinite != digest.notFinite)
-        return false;
-    return std::ranges::all_of(digest.numbers, [&](const Number& number) {
-        double value = 0;
-        return stored >> value && std::abs(value - number.value) <= kTolerance * number.size;
-    });
-}
-
-bool agree(const Outcome& here, const std::string& stored)
+// Empty if there is none.
+std::string difference(const Outcome& here, const std::string& stored)
 {
     std::istringstream text{stored};
     int status = 0;
     if (!(text >> status) || status != here.status)
-        return false;
-    for (const Output& output : here.outputs)
-        if (!agree(output, text))
-            return false;
+        return "status " + std::to_string(here.status) + ", stored: " + stored;
+    for (const Output& output : here.outputs) {
+        char letter = 0;
+        Fingerprint fingerprint{};
+        if (!(text >> letter >> fingerprint) || letter != output.letter)
+            return std::string("output ") + output.letter + " is not stored";
+        if (const std::string found = difference(output.values, fingerprint); !found.empty())
+            return std::string("output ") + output.letter + ", " + found;
+    }
     std::string more;
-    return !(text >> more);
+    return text >> more ? "output " + more + " is missing" : "";
 }
 
 std::string textOf(const Settings& settings)
@@ -135,15 +78,11 @@ std::string disagreements(const Family& family)
             const Outcome outcome = outcomeOf(row, one.settings);
             const std::string call = row.name + (' ' + one.label);
             const auto stored = storedResults().find(call);
-            const std::string expected = stored == storedResults().end() ? "nothing" : stored->second;
-            if (lacksTheBackend(outcome.status) || !agree(outcome, expected))
-                text.append(call)
-                    .append(textOf(one.settings))
-                    .append("\n  stored ")
-                    .append(expected)
-                    .append("\n  here   ")
-                    .append(textOf(outcome))
-                    .append("\n");
+            const std::string found = stored == storedResults().end()   ? "not stored"
+                                      : lacksTheBackend(outcome.status) ? "no backend"
+                                                                        : difference(outcome, stored->second);
+            if (!found.empty())
+                text.append(call).append(textOf(one.settings)).append(": ").append(found).append("\n");
         }
     return text;
 }

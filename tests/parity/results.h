@@ -1,6 +1,4 @@
-// The stored results of all calls. Of each call they have the status and, of each output, its letter and a digest: the
-// number of its elements and of those that are not finite; of the others the largest absolute value and two sums with
-// fixed weights or, of a single one, itself.
+// The stored results of all calls: of each the status and, of each output, its letter and a fingerprint.
 #pragma once
 #include <iosfwd>
 #include <string>

@@ -1,6 +1,8 @@
 // Makes allocation n of a call fail, for every n. Replaces operator new of the whole program, so only one file of a
 // program includes it; it reaches a module only where modules take operator new from the program.
 #pragma once
+#include <malloc.h>
+
 #include <cstdlib>
 #include <new>
 
@@ -27,6 +29,7 @@ struct Failure {
 
 Failure failure;
 int blocksAlive = 0;
+std::size_t bytesAlive = 0;
 
 } // namespace
 } // namespace support
@@ -37,6 +40,7 @@ void* operator new(std::size_t size, const std::nothrow_t&) noexcept
         return nullptr;
     void* const memory = std::malloc(size > 0 ? size : 1);
     support::blocksAlive += memory ? 1 : 0;
+    support::bytesAlive += malloc_usable_size(memory);
     return memory;
 }
 
@@ -50,6 +54,7 @@ void* operator new(std::size_t size)
 void operator delete(void* memory) noexcept
 {
     support::blocksAlive -= memory ? 1 : 0;
+    support::bytesAlive -= malloc_usable_size(memory);
     std::free(memory);
 }
 

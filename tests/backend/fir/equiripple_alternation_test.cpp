@@ -10,8 +10,6 @@ TEST(EquirippleAlternation, HoldsFor3To1001Taps)
 {
     for (const EquirippleRow& row : kEquirippleRows)
         for (const int taps : row.taps) {
-            if (taps > row.most)
-                continue;
             const EquirippleOrder order = orderOf(row, taps);
             const auto [status, h, ripple] = design(order);
             ASSERT_EQ(status, Status::Success) << row.what << ", " << taps << " taps";

@@ -125,6 +125,18 @@ TEST(EquirippleArguments, MayNotBeNull)
     EXPECT_EQ(out, 8);
 }
 
+// More bands than are worked out are not read either.
+TEST(EquirippleArguments, AreRefusedByTheNumberOfBands)
+{
+    const double value = 0.1, edges[] = {0, 0.1};
+    const Band band{1, 0, 0.1, 1};
+    double h[9] = {}, ripple = 8;
+    EXPECT_EQ(backend::AALFunc65(1025, &value, &value, 1, edges, 1, 9, h, &ripple), Status::DesignFailed);
+    for (const std::int64_t count : {std::int64_t{1025}, std::numeric_limits<std::int64_t>::max()})
+        EXPECT_EQ(backend::AALFunc408(9, 1, &band, count, 0, h, &ripple), Status::DesignFailed);
+    EXPECT_EQ(ripple, 8);
+}
+
 // The four responses as design and as filter, real and complex, with the edges f[0]..f[3].
 enum Response : int { LowPass, HighPass, BandPass, BandStop };
 constexpr Response kResponses[] = {LowPass, HighPass, BandPass, BandStop};

@@ -191,6 +191,12 @@ TEST(NarrowBand, IsTheSameInAnyUnitOfFrequency)
     EXPECT_EQ(impulseResponse(*one), impulseResponse(*other));
 }
 
+TEST(NarrowBand, NeedsNoCenterFrequencyWhereItHasNone)
+{
+    for (const int type : {LowPass, HighPass, WideLowPass, WideHighPass})
+        EXPECT_EQ(impulseResponse(*designed({type, 0.1, 0.2, 0})), impulseResponse(*designed({type, 0.1, 0.2, 0.5})));
+}
+
 TEST(NarrowBand, RefusesWhatItDocumentsInItsOrder)
 {
     Filter filter = designed({LowPass, 0.1, 0.2});
@@ -210,6 +216,9 @@ TEST(NarrowBand, RefusesWhatItDocumentsInItsOrder)
     }
     expect({BandPass, 0.1, 0.2, 0.4}, Status::Band);
     expect({BandPass, 0.1, 0.2, kNan}, Status::Band);
+    for (const int type : {LowPass, HighPass, WideLowPass, WideHighPass})
+        for (const double center : {-0.1, 0.51, kNan, kInfinity})
+            expect({type, 0.1, 0.2, center}, Status::Band);
     for (const double fs : {0.0, -1.0, kNan, kInfinity})
         expect({LowPass, 0.1, 0.2, 0.12, 0.01, 60, fs}, Status::Band);
     for (const double bad : {0.0, -1.0, kNan, kInfinity}) {

@@ -136,5 +136,17 @@ TEST(Windows, OfDolphAndChebyshevHaveSideLobesOfTheDecibelsAskedFor)
         }
 }
 
+// Neither reads nor writes anything.
+TEST(Windows, OfDolphAndChebyshevEndBeforeTheyTakeLong)
+{
+    const double x = 1;
+    double y = 8;
+    for (const int taps : {(1 << 23) + 1, std::numeric_limits<int>::max()}) {
+        EXPECT_EQ(backend::AALFunc335(kLowPass, 1, 0.1, 0, taps, kDolphChebyshev, 60, &y), Status::OutOfMemory);
+        EXPECT_EQ(backend::AALFunc481(&x, 1, taps, 1, 0.1, kDolphChebyshev, 60, &y), Status::OutOfMemory);
+    }
+    EXPECT_EQ(y, 8);
+}
+
 } // namespace
 } // namespace quordsp::test

@@ -1,16 +1,10 @@
 // How far a design, rounded to double, is from the one that an exact prototype stands for.
 #pragma once
 
-#include "data/backend/iir_prototypes.inc"
+#include "backend/iir/exact_filter.h"
 #include "iir/design.h"
 
-#include <span>
-
 namespace quordsp::test {
-
-struct Cutoffs {
-    double fl, fh; // fractions of fs
-};
 
 // The largest of several designs. The pass band is where the gain is above -3 dB, the stop band goes on down to
 // -150 dB.
@@ -20,9 +14,11 @@ struct Errors {
     int designs = 0, refused = 0;
 };
 
-// A cascade of sections of second or fourth order.
+// What the sections of a cascade are.
+enum class Form { Delta, DirectOfSecondOrder, DirectOfFourthOrder };
+
 void measure(Errors& errors, const vectors::Prototype& prototype, backend::Response response, const Cutoffs& cutoffs,
-             std::size_t sectionOrder);
+             Form form);
 
 // The largest relative error of a pole, a zero or the gain of the prototype itself.
 long double prototypeError(const vectors::Prototype& prototype);

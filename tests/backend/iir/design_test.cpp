@@ -253,9 +253,21 @@ TEST(ButterworthCascade, RefusesWhatDoubleCannotHold)
     EXPECT_FALSE(cascade(LowPass, 2, 2e-8, 0));
     EXPECT_FALSE(cascade(LowPass, 2, 1e-10, 0));
     EXPECT_FALSE(cascade(BandPass, 2, 1e-6, 2e-6));
+}
+
+TEST(ButterworthFilter, SucceedsWhereverDoubleHoldsItsPolesFromOne)
+{
     double x = 1, y = 7;
+    const auto low = [&](double fc) { return butterworth(LowPass, &x, 1, 1, fc, 0, 8, &y); };
+    const auto high = [&](double fc) { return butterworth(HighPass, &x, 1, 1, fc, 0, 8, &y); };
+    for (double fc : {1e-150, 1e-12, 2e-8, 0.5 - 2e-8, 0.5 - 1e-15}) {
+        EXPECT_EQ(low(fc), Status::Success) << fc;
+        EXPECT_EQ(high(fc), Status::Success) << fc;
+    }
+    EXPECT_EQ(low(1e-155), Status::DesignFailed) << "the square of the poles' distance is below all normal numbers";
+    EXPECT_EQ(high(1e-155), Status::DesignFailed);
     EXPECT_EQ(butterworth(BandPass, &x, 1, 1, 1e-6, 2e-6, 2, &y), Status::Success);
-    EXPECT_EQ(butterworth(LowPass, &x, 1, 1, 2e-8, 0, 2, &y), Status::DesignFailed);
+    EXPECT_EQ(butterworth(BandPass, &x, 1, 1, 0.25, 0.25 * (1 + 1e-14), 2, &y), Status::DesignFailed);
     EXPECT_EQ(butterworth(LowPass, &x, 1, INFINITY, 1, 0, 2, &y), Status::Cutoff);
 }
 

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <random>
 #include <vector>
 
@@ -14,6 +15,8 @@ namespace quordsp::test {
 namespace {
 
 using Array = std::vector<double>;
+using backend::DeltaSection;
+using backend::DirectSection;
 using backend::filterSections;
 using backend::Sections;
 
@@ -42,9 +45,31 @@ struct Run {
 };
 
 // Reverse coefficients this small make stable sections.
-template <std::size_t D>
+template <class Section>
+Array reverseCoefficients(std::size_t count)
+{
+    return noise(count * Section::kOrder, 0.9 / Section::kOrder);
+}
+
+// Poles on either side, inside the unit circle: abs(a1) > a2 > 0.
+template <>
+Array reverseCoefficients<DeltaSection>(std::size_t count)
+{
+    Array reverse = noise(2 * count, 0.4);
+    for (std::size_t k = 0; k < count; ++k) {
+        reverse[2 * k] += std::copysign(0.5, reverse[2 * k]);
+        reverse[2 * k + 1] = 0.01 + std::abs(reverse[2 * k + 1]);
+    }
+    return reverse;
+}
+
+template <class Section>
 struct Cascade {
-    explicit Cascade(std::size_t count) : reverse(noise(count * D, 0.9 / D)), forward(noise(count * (D + 1), 1)) {}
+    static constexpr std::size_t D = Section::kOrder;
+
+    explicit Cascade(std::size_t count)
+        : reverse(reverseCoefficients<Section>(count)), forward(noise(count * (D + 1), 1))
+    {}
 
     Sections from(std::size_t first, std::size_t count) const
     {
@@ -54,49 +79,82 @@ struct Cascade {
     Array reverse, forward;
 };
 
-template <std::size_t D, std::size_t P>
-Run oneAfterTheOther(const Cascade<D>& cascade, std::size_t count, std::int64_t n)
+template <class Section, std::size_t P>
+Run before(std::size_t count, std::int64_t n)
 {
-    Run run{noise(static_cast<std::size_t>(n) * P, 1), noise(count * D * P, 1)};
+    return {noise(static_cast<std::size_t>(n) * P, 1), noise(count * Section::kOrder * P, 1)};
+}
+
+template <class Section, std::size_t P>
+Run oneAfterTheOther(const Cascade<Section>& cascade, std::size_t count, std::int64_t n)
+{
+    Run run = before<Section, P>(count, n);
     for (std::size_t k = 0; k < count; ++k)
-        Versions<filterSections<D, P, 1>>::baseline(run.y.data(), n, cascade.from(k, 1), run.state.data() + k * D * P,
-                                                    run.y.data());
+        Versions<filterSections<Section, P, 1>>::baseline(run.y.data(), n, cascade.from(k, 1),
+                                                          run.state.data() + k * Section::kOrder * P, run.y.data());
     return run;
 }
 
-template <std::size_t D, std::size_t P, std::size_t S>
+template <class Section, std::size_t P, std::size_t S>
 void expectTheSameBitsSideBySide()
 {
     for (std::size_t count = 1; count <= S; ++count)
         for (std::int64_t n : {32, 33, 100, 1000}) {
-            const Cascade<D> cascade{count};
-            const Run wanted = oneAfterTheOther<D, P>(cascade, count, n);
+            const Cascade<Section> cascade{count};
+            const Run wanted = oneAfterTheOther<Section, P>(cascade, count, n);
             for (InstructionSet set : instructionSets()) {
-                Run run{noise(static_cast<std::size_t>(n) * P, 1), noise(count * D * P, 1)};
-                Versions<filterSections<D, P, S>>::of(set)(run.y.data(), n, cascade.from(0, count), run.state.data(),
-                                                           run.y.data());
-                EXPECT_EQ(run, wanted) << D << ' ' << P << ' ' << S << ' ' << count << ' ' << n;
+                Run run = before<Section, P>(count, n);
+                Versions<filterSections<Section, P, S>>::of(set)(run.y.data(), n, cascade.from(0, count),
+                                                                 run.state.data(), run.y.data());
+                EXPECT_EQ(run, wanted) << P << ' ' << S << ' ' << count << ' ' << n;
             }
         }
 }
 
+template <class Section>
+void expectTheSameBitsOfRealSignals()
+{
+    expectTheSameBitsSideBySide<Section, 1, 2>();
+    expectTheSameBitsSideBySide<Section, 1, 4>();
+    expectTheSameBitsSideBySide<Section, 1, 8>();
+}
+
+template <class Section>
+void expectTheSameBitsOfComplexSignals()
+{
+    expectTheSameBitsSideBySide<Section, 2, 1>();
+    expectTheSameBitsSideBySide<Section, 2, 2>();
+    expectTheSameBitsSideBySide<Section, 2, 4>();
+}
+
 TEST(CascadeKernel, GivesTheSameBitsSideBySideAsOneAfterTheOther)
 {
-    expectTheSameBitsSideBySide<2, 1, 2>();
-    expectTheSameBitsSideBySide<2, 1, 4>();
-    expectTheSameBitsSideBySide<2, 1, 8>();
-    expectTheSameBitsSideBySide<4, 1, 2>();
-    expectTheSameBitsSideBySide<4, 1, 4>();
-    expectTheSameBitsSideBySide<4, 1, 8>();
+    expectTheSameBitsOfRealSignals<DirectSection<2>>();
+    expectTheSameBitsOfRealSignals<DirectSection<4>>();
+    expectTheSameBitsOfRealSignals<DeltaSection>();
 }
 
 TEST(CascadeKernel, GivesTheSameBitsSideBySideForComplexSignals)
 {
-    expectTheSameBitsSideBySide<2, 2, 1>();
-    expectTheSameBitsSideBySide<2, 2, 2>();
-    expectTheSameBitsSideBySide<2, 2, 4>();
-    expectTheSameBitsSideBySide<4, 2, 2>();
-    expectTheSameBitsSideBySide<4, 2, 4>();
+    expectTheSameBitsOfComplexSignals<DirectSection<2>>();
+    expectTheSameBitsOfComplexSignals<DirectSection<4>>();
+    expectTheSameBitsOfComplexSignals<DeltaSection>();
+}
+
+TEST(CascadeKernel, RunsADeltaSectionAsItsDifferenceEquation)
+{
+    for (double c : {1.0, -1.0}) {
+        const double a[] = {c * 0.75, 0.25}, b[] = {2, 3, 5};
+        // In powers of z: z^2 - 2 c z + 1 + a1 (z - c) + a2, and the numerator likewise.
+        const double z1 = a[0] - 2 * c, z0 = 1 - c * a[0] + a[1];
+        const double n1 = b[1] - 2 * c * b[0], n0 = b[0] - c * b[1] + b[2];
+        double x[40] = {1, -2, 0.5}, y[40], state[2] = {};
+        for (std::size_t i = 3; i < std::size(x); ++i)
+            x[i] = x[i - 3] / 2;
+        Versions<filterSections<DeltaSection, 1, 2>>::baseline(x, std::ssize(x), {1, a, b}, state, y);
+        for (std::size_t i = 2; i < std::size(x); ++i)
+            EXPECT_NEAR(y[i] + z1 * y[i - 1] + z0 * y[i - 2], b[0] * x[i] + n1 * x[i - 1] + n0 * x[i - 2], 1e-14);
+    }
 }
 
 template <std::size_t P, std::size_t R>

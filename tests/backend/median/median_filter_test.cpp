@@ -175,6 +175,25 @@ TEST(MedianFilter, AcceptsAnyLeftRank)
                 ElementsAre(0, IsNan(), IsNan()));
 }
 
+// From twice the length of the signal on, the zeros around it are more than half of every window.
+TEST(MedianFilter, FollowsItsDefinitionForWindowsLongerThanTheSignal)
+{
+    std::minstd_rand random;
+    for (std::size_t n = 1; n <= 20; ++n)
+        for (std::size_t left = 0; left <= 3 * n; ++left)
+            for (std::size_t right : {std::size_t{0}, n / 3, n - 1})
+                expectTheDefinition(samples(random, n, static_cast<int>(random() % 4)), left, right);
+}
+
+// Numbers that no memory holds the ranks of.
+TEST(MedianFilter, NeedsNoMemoryForWindowsOfZeros)
+{
+    const Array x{3, 1, 2};
+    for (std::int64_t left : {kManySamples - 3, kManySamples})
+        for (std::int64_t right : {0, 2})
+            EXPECT_THAT(filtered(x, left, right), Each(0));
+}
+
 TEST(MedianFilter, LeavesTheInputAloneUnlessItIsTheOutput)
 {
     for (std::int64_t rank : {2, 20}) {

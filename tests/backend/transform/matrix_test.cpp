@@ -14,8 +14,9 @@ struct Size {
     std::size_t rows;
     std::size_t columns;
 };
-constexpr Size kMatrices[] = {{1, 1},  {1, 9},  {9, 1},   {2, 2},   {3, 4},   {4, 3},  {5, 7},
-                              {8, 16}, {16, 8}, {17, 33}, {20, 31}, {12, 67}, {67, 4}, {30, 130}};
+constexpr Size kMatrices[] = {{1, 1},   {1, 9},   {9, 1},   {2, 2},   {3, 4},   {4, 3},  {5, 7},
+                              {8, 16},  {16, 8},  {17, 33}, {20, 31}, {12, 67}, {67, 4}, {30, 130},
+                              {1, 130}, {130, 1}, {3, 67},  {200, 3}, {16, 32}};
 
 std::int64_t wide(std::size_t n)
 {
@@ -145,10 +146,24 @@ TEST(Fft2D, AgreesWithTheDefinition)
     }
 }
 
+TEST(Fft2D, OfASingleRowOrColumnIsTheTransformOfASignal)
+{
+    constexpr std::size_t kCount = 90;
+    const Matrix row = noiseMatrix({1, kCount}), column = {{kCount, 1}, row.values};
+    Signal expected = separated(row.values), real = {expected.re, Array(kCount)};
+    ASSERT_EQ(fft(expected), Status::Success);
+    ASSERT_EQ(realFft(real), Status::Success);
+    for (const Matrix& x : {row, column}) {
+        EXPECT_EQ(spectrumOf(x, x.size).values, interleaved(expected));
+        EXPECT_EQ(spectrumOfReal(x, x.size).values, interleaved(real));
+    }
+}
+
 TEST(Fft2D, CutsAndPadsBothAxes)
 {
     const Matrix x = noiseMatrix({12, 19});
-    for (const Size size : {Size{12, 40}, Size{30, 19}, Size{5, 7}, Size{5, 40}, Size{30, 7}, Size{1, 1}}) {
+    for (const Size size :
+         {Size{12, 40}, Size{30, 19}, Size{5, 7}, Size{5, 40}, Size{30, 7}, Size{1, 40}, Size{30, 1}, Size{1, 1}}) {
         SCOPED_TRACE(testing::Message() << size.rows << " x " << size.columns);
         const Matrix same = resized(x, size);
         EXPECT_EQ(spectrumOf(x, size).values, spectrumOf(same, size).values);

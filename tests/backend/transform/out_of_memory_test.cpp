@@ -41,7 +41,7 @@ Method methods[] = {
     {90, [](std::size_t n) { return n % 2 != 0 && isSmooth(n); }},
     {1000, isPrime},
 };
-Method large = {32767, isSmooth};
+Method large = {65535, isSmooth};
 
 // Arguments of any entry; each entry takes what it has.
 struct Arguments {
@@ -130,6 +130,68 @@ TEST(TransformOutOfMemory, IsSurvivedByALargeSize)
 {
     expectSurvivesNewSizes(kEntries[0], large);
     expectSurvivesAKnownSize(kEntries[0], large);
+}
+
+struct TableEntry {
+    const char* name;
+    Status (*call)(Arguments& x, const FftTable* table);
+};
+
+const TableEntry kTableEntries[] = {
+    {"FFTEx",
+     [](Arguments& x, const FftTable* table) { return AALFunc262(x.a.data(), x.n - 1, x.n, table, 1, x.complexB()); }},
+    {"CxFFTEx", [](Arguments& x,
+                   const FftTable* table) { return AALFunc263(x.complexA(), x.n - 1, x.n, table, 1, x.complexB()); }},
+    {"InvFFTEx",
+     [](Arguments& x, const FftTable* table) { return AALFunc264(x.complexA(), x.n, table, 1, x.b.data()); }},
+    {"CxInvFFTEx",
+     [](Arguments& x, const FftTable* table) { return AALFunc265(x.complexA(), x.n, table, 1, x.complexB()); }},
+};
+
+// Whether an allocation of the call failed. The table may keep what the call has got.
+bool failsWithATable(const TableEntry& entry, std::size_t size, bool used, support::Failure failure)
+{
+    Arguments arguments(size);
+    const Arguments before = arguments;
+    FftTable* const table = AALFunc260(arguments.n);
+    if (used) {
+        EXPECT_EQ(entry.call(arguments, table), Status::Success);
+        arguments = before;
+    }
+    support::failure = failure;
+    const Status status = entry.call(arguments, table);
+    const bool failed = support::failure.hasCome;
+    support::failure = {};
+    EXPECT_EQ(status, failed ? Status::OutOfMemory : Status::Success);
+    EXPECT_EQ(arguments == before, failed);
+    EXPECT_EQ(entry.call(arguments, table), Status::Success) << "the next time";
+    AALFunc261(table);
+    return failed;
+}
+
+// Allocation n fails, until none does any more. Returns how many did.
+int expectSurvivesWithATable(const TableEntry& entry, std::size_t size, bool used)
+{
+    int n = 0;
+    for (bool failed = true; failed; n += failed ? 1 : 0)
+        for (const bool lasting : {false, true}) {
+            const int before = support::blocksAlive;
+            failed = failsWithATable(entry, size, used, {n, lasting});
+            EXPECT_EQ(support::blocksAlive, before) << entry.name << ", allocation " << n;
+        }
+    return n;
+}
+
+TEST(TransformWithATable, SurvivesThatThereIsNoMemory)
+{
+    for (const TableEntry& entry : kTableEntries) {
+        int failures = 0; // a table that has been used may have all that is needed, as may small sizes
+        for (Method& method : methods) {
+            failures += expectSurvivesWithATable(entry, method.newSize(), false);
+            expectSurvivesWithATable(entry, method.newSize(), true);
+        }
+        EXPECT_GT(failures, 0) << entry.name;
+    }
 }
 
 TEST(FftTable, IsNullWithoutMemory)

@@ -1,10 +1,12 @@
 // What transforms remember of earlier ones must not show: neither in several threads at once, nor when there are more
 // sizes than are remembered.
 #include "backend/transform/signals.h"
+#include "support/starting_line.h"
 
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <cstring>
 #include <thread>
 
 namespace quordsp::backend {
@@ -58,6 +60,41 @@ TEST(PlanCache, ServesThreadsThatUseTheSameAndOtherSizes)
                 for (std::size_t i = 0; i < 300; ++i) {
                     const std::size_t n = i % 3 == 0 ? 96 : 1 + (i * (2 * id + 7)) % (kCount - 1);
                     wrong += resultsOf(n) == expected[n] ? 0 : 1;
+                }
+            });
+    }
+    EXPECT_EQ(wrong, 0);
+}
+
+bool sameBits(const Array& a, const Array& b)
+{
+    return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size() * sizeof(double)) == 0;
+}
+
+// Each plan takes 5 MB; those of all sizes are more than is kept, so that one thread's plan throws out another's.
+TEST(PlanCache, ServesThreadsThatEvictEachOthersPlans)
+{
+    constexpr std::size_t kLargeSizes[] = {229376, 240000, 245760, 250000, 262144};
+    constexpr std::size_t kCount = std::size(kLargeSizes), kThreads = 4;
+    std::vector<Signal> signals, expected;
+    for (const std::size_t n : kLargeSizes) {
+        signals.push_back({noise(n, 1), Array(n)});
+        expected.push_back(signals.back());
+        ASSERT_EQ(realFft(expected.back()), Status::Success);
+    }
+    std::atomic<int> wrong{0};
+    support::StartingLine start(kThreads);
+    {
+        std::vector<std::jthread> threads;
+        for (std::size_t id = 0; id < kThreads; ++id)
+            threads.emplace_back([&, id] {
+                start.arriveAndWait();
+                for (std::size_t i = 0; i < 2 * kCount; ++i) {
+                    const std::size_t which = (i * (id + 1) + id) % kCount;
+                    Signal spectrum = signals[which];
+                    wrong += realFft(spectrum) == Status::Success ? 0 : 1;
+                    wrong += sameBits(spectrum.re, expected[which].re) ? 0 : 1;
+                    wrong += sameBits(spectrum.im, expected[which].im) ? 0 : 1;
                 }
             });
     }

@@ -124,10 +124,11 @@ inline double distance(const Signal& a, const Signal& b)
     return distance(left, right);
 }
 
-// Every kind of size: 1, primes of each method, powers of each radix, products, prime squares, a large prime.
-inline constexpr std::size_t kSizes[] = {1,    2,    3,    4,    5,    6,    7,    8,     9,     11,    16,
-                                         25,   30,   31,   32,   37,   67,   64,   96,    121,   210,   243,
-                                         256,  343,  512,  625,  961,  1009, 1024, 1369,  2000,  2048,  2187,
-                                         2310, 3125, 4093, 4096, 4199, 6144, 8192, 10007, 16384, 32768, 65536};
+// Every kind of size: 1, primes of each method, powers of each radix, products, also with and of primes that have no
+// radix, prime squares, a large prime.
+inline constexpr std::size_t kSizes[] = {1,    2,    3,    4,    5,    6,    7,    8,    9,     11,    16,    25,
+                                         30,   31,   32,   37,   67,   64,   96,   121,  210,   243,   256,   343,
+                                         512,  625,  961,  1009, 1024, 1369, 2000, 2048, 2187,  183,   201,   909,
+                                         2310, 3125, 4757, 4093, 4096, 4199, 6144, 8192, 10007, 16384, 32768, 65536};
 
 } // namespace quordsp::backend
