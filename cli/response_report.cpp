@@ -106,8 +106,8 @@ void printFigures(const ResponseFigures& figures, const FilterRequest& request)
 void warnOfForm(const std::string_view family, const TransferFunction& function)
 {
     const char* const instead = function.form == Form::Mapped
-                                    ? "; filter works with more exact ones. This is the response of the design before its"
-                                      " coefficients are rounded, by its low-pass"
+                                    ? "; filter works with more exact ones. This is the response of the design before"
+                                      " its coefficients are rounded, by its low-pass"
                                     : "; this is the response of the direct form, which is less exact";
     if (!function.refusal.empty())
         std::cerr << "quordsp: warning: the backend gives no sections of " << family << ": " << function.refusal
