@@ -111,7 +111,7 @@ extern "C" {
 // cut-off. The order is that of the low-pass prototype: band filters have twice as many poles.
 // They run on sections of 2nd order in powers of z - 1 or z + 1, whose coefficients lose nothing at low or high
 // cut-offs: of orders up to 20 and cut-offs from 1e-4 to 0.499 fs, the gain is within 1e-9 dB of the ideal one in the
-// pass band, unless a band is narrower than a two-hundredth of its centre (docs/accuracy.md). The results of
+// pass band, unless a band is narrower than a hundredth of its centre (docs/accuracy.md). The results of
 // IIRCascadeFiltering on cascade coefficients differ by what those lose. An order above 2^20 is answered as "not enough
 // memory". A design fails when double precision cannot hold it: when its rounded sections are unstable, or when their
 // gain is off by more than 1e-3 of the exact gain at the reference frequency (0; fs/2 for high-pass filters; both for
