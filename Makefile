@@ -23,7 +23,7 @@ bench: setup ## the benchmarks, beside their peers
 fuzz: setup ## the fuzz targets, each for FUZZ_SECONDS (60)
 	@tools/fuzz.sh
 
-exhaustive: setup ## every voltage of every thermocouple, every size of a transform, every equiripple row: long
+exhaustive: setup ## every thermocouple voltage, every size of transform up to 4096, all equiripple rows; long
 	@tools/exhaustive.sh
 
 format: ## format the C++ sources

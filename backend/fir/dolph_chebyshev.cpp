@@ -17,7 +17,7 @@ namespace {
 
 using Real = long double;
 
-// More take more than some seconds, also where a filter needs a few of them only.
+// Longer ones would take many seconds, also where a filter needs a few of their taps only.
 constexpr std::size_t kMostTaps = std::size_t{1} << 23;
 constexpr Real kPi = std::numbers::pi_v<Real>;
 

@@ -121,10 +121,11 @@ private:
                 Level all = levelOf(*std::move(solution));
                 return isTrue(all) ? std::optional{std::move(all)} : std::nullopt;
             }
+            reached_ = Level{approximation_.filter, *std::move(solution), {}, 0};
             size = std::min(2 * size, size_);
             setSize(size);
             solution = solve(size < size_ ? kOnTheWay : kTolerance,
-                             scaledReference(approximation_, solution->extrema, size + 1));
+                             scaledReference(approximation_, reached_->solution.extrema, size + 1));
         }
         return std::nullopt;
     }
@@ -134,7 +135,11 @@ private:
         std::size_t start = size_;
         while (start > 1)
             start = (start + 1) / 2;
-        std::optional<Level> first = level(start, nullptr);
+        std::optional<Level> first;
+        if (reached_)
+            first = level(sizeOf(*reached_), &*reached_);
+        if (!isHeld(first))
+            first = level(start, nullptr);
         require(first && isTrue(*first), Status::DesignFailed);
         Level best = *std::move(first);
         while (sizeOf(best) < size_ && isAboveFloor(best)) {
@@ -204,6 +209,7 @@ private:
     Approximation approximation_;
     std::size_t size_;
     Real scale_;
+    std::optional<Level> reached_; // by strides, the last size whose error double holds easily
     Effort& effort_;
 };
 

@@ -11,7 +11,7 @@ std::vector<Sample> extremaOf(const Interpolant& interpolant, const Approximatio
                               const Reference& reference, Real noise);
 
 // The same in double precision, many times as fast, where errors of about 1e-13 in units of the largest amplitude do
-// not matter. Nothing where the polynomial is beyond double.
+// not matter. Nothing where the polynomial or a band is beyond double.
 std::vector<Sample> quickExtremaOf(const Interpolant& interpolant, const Approximation& approximation,
                                    const Reference& reference);
 

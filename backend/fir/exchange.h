@@ -13,10 +13,10 @@ struct Solution {
 };
 
 // What an entry spends on its designs: an exchange costs the square of its places, or 16 times as much in extended
-// precision. Beyond the most, which takes some seconds, it throws DesignFailed.
+// precision. Beyond the most, which takes up to half a minute, it throws DesignFailed.
 class Effort {
 public:
-    static constexpr Real kMost = 1e9L;
+    static constexpr Real kMost = 4e9L;
 
     int exchanges() const { return exchanges_; }
     Real spent() const { return spent_; }

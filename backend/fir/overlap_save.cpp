@@ -75,7 +75,7 @@ void OverlapSave::filter(const double* x, std::size_t n, std::size_t stride, dou
 void OverlapSave::filterBlock(std::size_t length) const
 {
     const double largest = largestInput();
-    const double raise = largest * reach_ > kLeast ? 1 : kRaise;
+    const double raise = largest * std::min(reach_, 1.0) > kLeast ? 1 : kRaise;
     if (reach_ > kLeast && largest * raise * std::max(reach_, 1.0) < kMost)
         transform(raise);
     else

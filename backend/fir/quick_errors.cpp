@@ -10,6 +10,8 @@ namespace {
 
 // Weights below it are too small for sums that start with 1.
 constexpr double kLeastWeight = 0x1p-900;
+// Of two nodes, whose rounding would count too much in closer ones.
+constexpr double kLeastDistance = 0x1p-40;
 constexpr std::size_t kBatch = 64;
 static_assert(kBatch % kFrequencyGroup == 0);
 
@@ -41,7 +43,14 @@ QuickErrors::QuickErrors(const Interpolant& interpolant, const Approximation& ap
 
 bool QuickErrors::areInRange() const
 {
-    return std::all_of(weights_.begin(), weights_.begin() + static_cast<std::ptrdiff_t>(count_),
+    const auto isWide = [](const ApproximationBand& band) {
+        return static_cast<double>(band.lower) < static_cast<double>(band.upper);
+    };
+    const auto areClose = [](double x, double next) { return !(x - next > kLeastDistance); };
+    const auto nodes = static_cast<std::ptrdiff_t>(count_);
+    return std::ranges::all_of(approximation_.bands, isWide) &&
+           std::adjacent_find(x_.begin(), x_.begin() + nodes, areClose) == x_.begin() + nodes &&
+           std::all_of(weights_.begin(), weights_.begin() + nodes,
                        [](double weight) { return std::abs(weight) > kLeastWeight; });
 }
 

@@ -10,7 +10,7 @@ class QuickErrors {
 public:
     QuickErrors(const Interpolant& interpolant, const Approximation& approximation);
 
-    // Whether double has the range of the weights.
+    // Whether double has the range of the weights and tells nodes, and the edges of each band, apart.
     bool areInRange() const;
     // The errors at frequencies of a band.
     using Number = double;

@@ -3,11 +3,13 @@
 // over (d + 2)^2. Since no coefficient of an analog section is negative, these sums do not cancel: each coefficient is
 // accurate relative to itself, however close to z = 1 its polynomial has its roots.
 //
-// Poles nearer to z = -1 are those of the mirrored section, with 1 / s in place of s and -z in place of z.
+// Poles nearer to z = -1 are those of the mirrored section, with 1 / s in place of s and -z in place of z. Zeros at the
+// other end, which wide band-stop filters have, keep an absolute accuracy only.
 #include "iir/delta_sections.h"
 
 #include "iir/gain_account.h"
 
+#include <limits>
 #include <utility>
 
 namespace quordsp::backend {

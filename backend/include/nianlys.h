@@ -115,9 +115,11 @@ extern "C" {
 // IIRCascadeFiltering on cascade coefficients differ by what those lose. An order above 2^20 is answered as "not enough
 // memory". A design fails when double precision cannot hold it: when its rounded sections are unstable, or when their
 // gain is off by more than 1e-3 of the exact gain at the reference frequency (0; fs/2 for high-pass filters; both for
-// band-stop, the centre for band-pass filters) or at a cut-off. Cut-offs down to 1e-150 fs and any below fs/2 succeed,
-// and bands of Butterworth filters down to a width of about 1e-11 of their centre. Bessel filters end at order 300 (the
-// time grows with its cube, up to a third of a second), ripples and attenuations at 3080 dB; beyond, the design fails.
+// band-stop, the centre for band-pass filters) or at a cut-off. Cut-offs down to 1e-150 fs and any below fs/2
+// succeed (but for band-stop filters from below about 1e-13 fs to above fs/4, and inverse Chebyshev filters whose poles
+// lie below 1e-150 fs), and bands of Butterworth filters down to a width of about 1e-11 of their centre. Bessel filters
+// end at order 300 (the time grows with its cube, up to a third of a second), ripples and attenuations at 3080 dB;
+// beyond, the design fails.
 NIANLYS_API Status AALFunc21(const double* x, std::int64_t n, double fs, double fc, std::int32_t order,
                              double* y) noexcept; // Bw_LPF
 NIANLYS_API Status AALFunc20(const double* x, std::int64_t n, double fs, double fc, std::int32_t order,
@@ -290,7 +292,7 @@ NIANLYS_API Status AALFunc335(std::int32_t type, double fs, double fl, double fh
 // type 3 from 0 on, an amplitude that is not finite, a weight that is not positive and finite.
 // The ripple is within 1 % of the least possible one, unless double cannot hold that one: where fewer taps already have
 // a deviation about 1e-13 of the largest amplitude, or coefficients so large that their rounding shows, these stand
-// between zeros. DesignFailed: the exchange does not settle, within some seconds of work; more than 4096 taps or 1024
+// between zeros. DesignFailed: the exchange does not settle, within half a minute; more than 4096 taps or 1024
 // bands; weights more than 1e8 apart where taps would have to be left out. Time grows with the square of the taps: 1001
 // take some 30 ms, 4096 about half a second, and several times as much with many bands or weights that are far apart.
 NIANLYS_API Status AALFunc69(double fs, double f1, double f2, std::int32_t taps, double* h,
@@ -319,7 +321,7 @@ NIANLYS_API Status AALFunc355(std::int32_t polynomialOrder, std::int32_t sidePoi
 // frees it and its two arrays and ignores null. passBand and stopBand are widths; ripple is linear; centerFrequency,
 // which is in 0..fs/2 for all types, matters to types 2 and 3 only, which are stored with interpolation 1 and one image
 // tap. The model and the suppressor have at most 4096 taps each, a filter of types 2 and 3 at most 2^20; beyond, where
-// a deviation below about 1e-13 is asked for, and after some seconds of work the design fails. All lengths are odd.
+// a deviation below about 1e-13 is asked for, and after half a minute of work the design fails. All lengths are odd.
 NIANLYS_API FirFilter* AALFunc491() noexcept;            // AllocFIRFilterPtr
 NIANLYS_API void AALFunc492(FirFilter* filter) noexcept; // FreeFIRFilterPtr
 NIANLYS_API Status AALFunc409(double fs, double passBand, double stopBand, double centerFrequency, double ripple,

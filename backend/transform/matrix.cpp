@@ -84,9 +84,7 @@ void makeSymmetric(Complex* column, Size size)
 {
     for (std::size_t i = 0; i <= size.rows / 2; ++i) {
         const std::size_t opposite = (size.rows - i) % size.rows;
-        Complex& value = column[i * size.columns];
-        if (i == opposite)
-            value.imaginary = 0;
+        const Complex value = column[i * size.columns];
         column[opposite * size.columns] = {value.real, i == opposite ? 0 : -value.imaginary};
     }
 }

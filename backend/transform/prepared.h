@@ -1,4 +1,4 @@
-// A plan and the memory that it works in: all that a transform can run out of memory for.
+// A plan and the memory that it works in, taken together before anything is written.
 #pragma once
 
 #include "transform/plan_cache.h"

@@ -1,12 +1,12 @@
 #include "transform/real_plan.h"
 
+#include "buffer.h"
 #include "transform/even_real.h"
 #include "transform/kernel.h"
 #include "transform/odd_real.h"
 #include "transform/vector.h"
 
 namespace quordsp::backend {
-
 namespace {
 
 // From bin k on; what is less than a vector in ever narrower ones.
@@ -24,6 +24,8 @@ template <std::size_t W, bool kInterleaved>
 
 std::unique_ptr<const RealMethod> methodFor(std::size_t n)
 {
+    if (n > kMostElements)
+        throw std::bad_alloc();
     if (n % 2 == 0)
         return std::make_unique<EvenReal>(n);
     return std::make_unique<OddReal>(n);

@@ -75,6 +75,8 @@ void addMatrix(Hash& hash, std::int64_t rows, std::int64_t columns)
     hash.add(AALFunc268(bins.data(), rows, columns, 1, back.data()));
     hash.add(bins);
     hash.add(complexBins);
+    hash.add(AALFunc269(bins.data(), rows, columns, 1, complexBins.data()));
+    hash.add(complexBins);
     hash.add(back);
 }
 

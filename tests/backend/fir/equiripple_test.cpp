@@ -186,5 +186,21 @@ TEST(Equiripple, AnswersAbsurdOrders)
     EXPECT_EQ(design({100000, kMultiBand, {{1, 0, 0.1, 1}, {0, 0.2, 0.5, 1}}}).status, Status::DesignFailed);
 }
 
+// So far below the sampling frequency that a quotient in double is 0, and of two neighbouring doubles.
+TEST(Equiripple, AnswersBandsThatDoubleTakesForOnePlace)
+{
+    const auto isAnswered = [](double fs, const std::vector<double>& edges) {
+        const double amplitudes[] = {1, 0, 0}, weights[] = {1, 1, 1};
+        std::vector<double> h(21);
+        double ripple = -1;
+        const Status status = backend::AALFunc65(static_cast<int>(edges.size() / 2), amplitudes, weights, fs,
+                                                 edges.data(), kMultiBand, 21, h.data(), &ripple);
+        return status == Status::Success || status == Status::DesignFailed;
+    };
+    EXPECT_TRUE(isAnswered(1e300, {0, 1e-30, 2e-30, 3e-30, 1e299, 4e299}));
+    EXPECT_TRUE(isAnswered(5, {1, std::nextafter(1.0, 2.0), 2, 2.5}));
+    EXPECT_TRUE(isAnswered(5, {0, 0.5, 1, std::nextafter(1.0, 2.0), 2, 2.5}));
+}
+
 } // namespace
 } // namespace quordsp::test

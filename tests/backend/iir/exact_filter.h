@@ -5,6 +5,7 @@
 #include "data/backend/iir_prototypes.inc"
 
 #include <complex>
+#include <vector>
 
 namespace quordsp::test {
 

@@ -143,9 +143,10 @@ double errorOf(const Signal& found, Expected expected)
         error += re * re + im * im;
         size += exact.re * exact.re + exact.im * exact.im;
     }
-    return static_cast<double>(std::sqrt(error / size)) /
-           (std::numeric_limits<double>::epsilon() *
-            std::sqrt(std::log2(static_cast<double>(std::max<std::size_t>(n, 2)))));
+    const double unit =
+        std::numeric_limits<double>::epsilon() * std::sqrt(std::log2(static_cast<double>(std::max<std::size_t>(n, 2))));
+    const double units = static_cast<double>(std::sqrt(error / size)) / unit;
+    return std::isnan(units) ? std::numeric_limits<double>::infinity() : units; // NaN would get lost in std::max
 }
 
 // The spectrum whose inverse transform is the real part of that of z. Without a rounding error: noise has 32 bits.

@@ -46,7 +46,7 @@ Method large = {65535, isSmooth};
 // Arguments of any entry; each entry takes what it has.
 struct Arguments {
     explicit Arguments(std::size_t count)
-        : n(static_cast<std::int64_t>(count)), a(6 * count, 1), b(6 * count, -1), c(6 * count, -1)
+        : n(static_cast<std::int64_t>(count)), a(16 * count, 1), b(16 * count, -1), c(16 * count, -1)
     {}
     bool operator==(const Arguments&) const = default;
 
@@ -115,9 +115,9 @@ const Entry kEntries[] = {
     {"InvFFTEx", [](Arguments& x) { return AALFunc264(x.complexA(), x.n, nullptr, 1, x.b.data()); }},
     {"CxInvFFTEx", [](Arguments& x) { return AALFunc265(x.complexA(), x.n, nullptr, 1, x.complexB()); }},
     {"FFT2D", [](Arguments& x) { return AALFunc266(x.a.data(), 3, x.n, 0, 0, 1, x.complexB()); }},
-    {"CxFFT2D", [](Arguments& x) { return AALFunc267(x.complexA(), x.n, 3, 0, 0, 1, x.complexB()); }},
+    {"CxFFT2D", [](Arguments& x) { return AALFunc267(x.complexA(), x.n, 8, 0, 0, 1, x.complexB()); }},
     {"InvFFT2D", [](Arguments& x) { return AALFunc268(x.complexA(), 3, x.n, 1, x.b.data()); }},
-    {"CxInvFFT2D", [](Arguments& x) { return AALFunc269(x.complexA(), x.n, 3, 1, x.complexB()); }},
+    {"CxInvFFT2D", [](Arguments& x) { return AALFunc269(x.complexA(), x.n, 8, 1, x.complexB()); }},
     {"Spectrum", [](Arguments& x) { return AALFunc161(x.a.data(), x.n); }},
     {"CxSpectrum", [](Arguments& x) { return AALFunc467(x.complexA(), x.n, x.b.data()); }},
     {"AutoPowerSpectrum", [](Arguments& x) { return AALFunc10(x.a.data(), x.n, 1, x.b.data(), &x.df); }},

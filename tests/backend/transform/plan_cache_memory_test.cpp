@@ -41,10 +41,11 @@ const Kind kKinds[] = {
      }},
     {16'000,
      [](const support::Module& module, std::size_t n) {
-         const Array x(n, 1);
-         Complexes y(n);
-         const auto matrixFft = entry<decltype(AALFunc266)>(module, "AALFunc266");
-         EXPECT_EQ(matrixFft(x.data(), 1, count(x), 0, 0, 0, y.data()), Status::Success);
+         constexpr std::size_t kColumns = 8; // as many as one plan transforms side by side
+         const Complexes x(kColumns * n, Complex{1, 0});
+         Complexes y(x.size());
+         const auto matrixFft = entry<decltype(AALFunc267)>(module, "AALFunc267");
+         EXPECT_EQ(matrixFft(x.data(), static_cast<std::int64_t>(n), kColumns, 0, 0, 0, y.data()), Status::Success);
      }},
 };
 

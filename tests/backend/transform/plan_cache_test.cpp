@@ -18,8 +18,10 @@ Array resultsOf(std::size_t n)
     Signal z = complexNoise(n), x = complexNoise(n);
     EXPECT_EQ(fft(z), Status::Success);
     EXPECT_EQ(realFft(x), Status::Success);
-    Complexes matrix = interleaved(complexNoise(n)), spectrum(n);
-    EXPECT_EQ(AALFunc267(matrix.data(), 1, count(matrix), 0, 0, 0, spectrum.data()), Status::Success);
+    // As many columns as one plan transforms side by side.
+    const Complexes matrix = interleaved(complexNoise(8 * n));
+    Complexes spectrum(8 * n);
+    EXPECT_EQ(AALFunc267(matrix.data(), static_cast<std::int64_t>(n), 8, 0, 0, 0, spectrum.data()), Status::Success);
     const Signal y = separated(spectrum);
     Array all;
     for (const Signal& part : {z, x, y})

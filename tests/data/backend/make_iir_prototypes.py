@@ -102,12 +102,35 @@ def text(value):
     return "0" if value == 0 else mp.nstr(value, 22, strip_zeros=False, min_fixed=-5, max_fixed=5) + "L"
 
 
-def row(name, order, ripple, attenuation, sections, gain):
-    print(f"    {{{name}, {order}, {ripple!r}, {attenuation!r}, {text(gain)},\n     {{")
-    for pole, zero in sections:
-        print(f"        {{{text(pole.real)}, {text(abs(pole.imag))}, {'kNone' if zero is None else text(zero)}}},")
-    print("     }},")
+SECTIONS, PROTOTYPES, EXTREMES = [], [], []
 
+
+def row(rows, name, order, ripple, attenuation, sections, gain):
+    rows.append(f"    {{{name}, {order}, {ripple!r}, {attenuation!r}, {text(gain)}, "
+                f"{{kSections + {len(SECTIONS)}, {len(sections)}}}}},")
+    for pole, zero in sections:
+        SECTIONS.append(f"    {{{text(pole.real)}, {text(abs(pole.imag))}, {'kNone' if zero is None else text(zero)}}},")
+
+
+ORDERS = range(1, 21)
+for n in ORDERS:
+    row(PROTOTYPES, "test::Butterworth", n, 0.0, 0.0, *butterworth(n))
+    row(PROTOTYPES, "test::Bessel", n, 0.0, 0.0, *bessel(n))
+    for ripple in (0.1, 3.0):
+        row(PROTOTYPES, "test::Chebyshev", n, ripple, 0.0, *chebyshev(n, ripple))
+    for attenuation in (60.0, 150.0) if n > 3 else (60.0,):
+        row(PROTOTYPES, "test::InverseChebyshev", n, 0.0, attenuation, *inverse_chebyshev(n, attenuation))
+    for ripple, attenuation in ((0.1, 60.0), (1.0, 150.0)):
+        row(PROTOTYPES, "test::Elliptic", n, ripple, attenuation, *elliptic(n, ripple, attenuation))
+for n in (40, 64):
+    row(EXTREMES, "test::Bessel", n, 0.0, 0.0, *bessel(n))
+for n, ripple in ((1, 1e-10), (7, 1e-10), (3, 60.0), (2, 1e-3), (100, 0.01)):
+    row(EXTREMES, "test::Chebyshev", n, ripple, 0.0, *chebyshev(n, ripple))
+for n, attenuation in ((1, 150.0), (3, 150.0), (12, 300.0), (5, 0.01), (100, 80.0)):
+    row(EXTREMES, "test::InverseChebyshev", n, 0.0, attenuation, *inverse_chebyshev(n, attenuation))
+for n, ripple, attenuation in ((1, 1e-10, 300.0), (6, 1e-10, 60.0), (12, 1.0, 300.0), (5, 1.0, 1.01), (4, 1e-10, 1e-9),
+                               (9, 1e-3, 20.0), (2, 50.0, 51.0), (40, 0.1, 300.0)):
+    row(EXTREMES, "test::Elliptic", n, ripple, attenuation, *elliptic(n, ripple, attenuation))
 
 print("""// Made by make_iir_prototypes.py.
 // clang-format off
@@ -116,7 +139,7 @@ print("""// Made by make_iir_prototypes.py.
 #include "backend/support/iir_family.h"
 
 #include <limits>
-#include <vector>
+#include <span>
 
 namespace quordsp::vectors {
 
@@ -132,34 +155,21 @@ struct Prototype {
     int order;
     double ripple, attenuation; // dB
     long double gain;           // at 0
-    std::vector<PoleAndZero> sections; // by ascending quality
+    std::span<const PoleAndZero> sections; // by ascending quality
 };
+
+inline constexpr PoleAndZero kSections[] = {""")
+print("\n".join(SECTIONS))
+print("""};
 
 // Ordinary ripples and attenuations, orders 1 to 20. An inverse Chebyshev filter of low order and high attenuation ends
 // its pass band thousands of times below the cut-off.
-inline const Prototype kPrototypes[] = {""")
-ORDERS = range(1, 21)
-for n in ORDERS:
-    row("test::Butterworth", n, 0.0, 0.0, *butterworth(n))
-    row("test::Bessel", n, 0.0, 0.0, *bessel(n))
-    for ripple in (0.1, 3.0):
-        row("test::Chebyshev", n, ripple, 0.0, *chebyshev(n, ripple))
-    for attenuation in (60.0, 150.0) if n > 3 else (60.0,):
-        row("test::InverseChebyshev", n, 0.0, attenuation, *inverse_chebyshev(n, attenuation))
-    for ripple, attenuation in ((0.1, 60.0), (1.0, 150.0)):
-        row("test::Elliptic", n, ripple, attenuation, *elliptic(n, ripple, attenuation))
+inline constexpr Prototype kPrototypes[] = {""")
+print("\n".join(PROTOTYPES))
 print("""};
 
-inline const Prototype kExtremes[] = {""")
-for n in (40, 64):
-    row("test::Bessel", n, 0.0, 0.0, *bessel(n))
-for n, ripple in ((1, 1e-10), (7, 1e-10), (3, 60.0), (2, 1e-3), (100, 0.01)):
-    row("test::Chebyshev", n, ripple, 0.0, *chebyshev(n, ripple))
-for n, attenuation in ((1, 150.0), (3, 150.0), (12, 300.0), (5, 0.01), (100, 80.0)):
-    row("test::InverseChebyshev", n, 0.0, attenuation, *inverse_chebyshev(n, attenuation))
-for n, ripple, attenuation in ((1, 1e-10, 300.0), (6, 1e-10, 60.0), (12, 1.0, 300.0), (5, 1.0, 1.01), (4, 1e-10, 1e-9),
-                               (9, 1e-3, 20.0), (2, 50.0, 51.0), (40, 0.1, 300.0)):
-    row("test::Elliptic", n, ripple, attenuation, *elliptic(n, ripple, attenuation))
+inline constexpr Prototype kExtremes[] = {""")
+print("\n".join(EXTREMES))
 print("""};
 
 } // namespace quordsp::vectors""")
