@@ -1,6 +1,6 @@
-// From a low-pass filter to a band-pass or band-stop filter of the same family, with its cut-off at a quarter of the
-// sampling rate: where on its frequency axis each frequency of the band filter lies. This is the response of a design
-// whose sections, four poles in each, double cannot hold. Frequencies are shares of the sampling rate.
+// From a low-pass filter with its cut-off at a quarter of the sampling rate to another filter of the same family: where
+// on its frequency axis each frequency of the other filter lies. This is the response of a design whose sections double
+// cannot hold. Frequencies are shares of the sampling rate.
 #pragma once
 #include <complex>
 #include <vector>
@@ -9,22 +9,24 @@ namespace quordsp::cli {
 
 class BandMap {
 public:
-    // The cut-offs of the band filter.
+    // The cut-offs of a band filter. Without a lower one, which is 0 then, it is a low-pass, or a high-pass when it
+    // stops.
     BandMap(double lower, double upper, bool stops);
 
     struct Place {
         double frequency; // of the low-pass, -0.5 to 0.5
-        double slope;     // of that frequency, by the band filter's
+        double slope;     // of that frequency, by the other filter's
         bool isBehind;    // a stop band's middle: the low-pass's axis has been run through to its end once
     };
     [[nodiscard]] Place placeOf(double frequency) const;
 
-    // The two poles of the band filter for one of the low-pass, as distances from the unit circle, inside positive.
+    // The poles of the other filter for one of the low-pass, two of a band filter, as distances from the unit circle,
+    // inside positive.
     [[nodiscard]] std::vector<double> distancesOf(std::complex<double> pole) const;
 
 private:
-    double width_; // on the axis of the analogue prototype, like the middle
-    double middle_;
+    double width_;  // on the axis of the analogue prototype, like the middle
+    double middle_; // 0: no band filter
     bool stops_;
 };
 

@@ -65,6 +65,34 @@ Failure noCommand(const CLI::App& app)
     return {ExitCode::Usage, "a command is missing", commandList(app) + "; see 'quordsp --help'"};
 }
 
+bool isList(const CLI::Option* option)
+{
+    return option != nullptr && option->get_delimiter() == ',' && !option->get_allow_extra_args();
+}
+
+// The parser passes over an empty item of a list: "a,,b" and "a," would be as good as "a,b" and "a".
+void refuseEmptyItems(const CLI::App& app, std::span<const char* const> arguments)
+{
+    const auto commands = app.get_subcommands({});
+    const auto command = std::ranges::find_if(
+        commands, [&](const CLI::App* one) { return arguments.size() > 1 && one->get_name() == arguments[1]; });
+    for (std::size_t i = 2; command != commands.end() && i < arguments.size(); ++i) {
+        const std::string argument = arguments[i];
+        const std::size_t equals = std::min(argument.find('='), argument.size());
+        const std::string name = argument.substr(0, equals);
+        if (!isList((*command)->get_option_no_throw(name)))
+            continue;
+        std::string items;
+        if (equals < argument.size())
+            items = argument.substr(equals + 1);
+        else if (i + 1 < arguments.size())
+            items = arguments[i + 1];
+        if (items.starts_with(',') || items.ends_with(',') || items.find(",,") != std::string::npos)
+            throw Failure(ExitCode::Usage, name + ": an item of '" + items + "' is empty",
+                          "give one between each two commas");
+    }
+}
+
 Failure wrongUse(const CLI::App& app, const CLI::ParseError& error)
 {
     const auto chosen = app.get_subcommands();
@@ -190,6 +218,7 @@ void parseAndRun(int argc, const char* const* argv, std::span<const CommandEntry
         Command command(*app.add_subcommand(name, summary)->footer(kExitCodesHelp));
         addTo(command);
     }
+    refuseEmptyItems(app, {argv, static_cast<std::size_t>(argc)});
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {

@@ -1,6 +1,7 @@
 #include "filter_choice.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <limits>
 #include <ranges>
 #include <set>
@@ -204,7 +205,7 @@ std::string bandOf(const FilterFamily& family, const FilterChoice& choice)
     const std::vector<double>& edges = frequenciesFor(family, choice);
     for (std::size_t i = 0; i < edges.size(); ++i) {
         const char* const between = i == 0 ? " " : " to ";
-        text += (i % group == 0 ? between : "/") + rounded(edges[i]);
+        text += (i % group == 0 ? between : "/") + rounded(edges[i], kFrequencyDigits);
     }
     return text + " Hz";
 }

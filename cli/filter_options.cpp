@@ -34,7 +34,7 @@ void addFilter(Command& command, FilterChoice& choice)
         .option("--cutoff", choice.cutoff,
                 "Two ascending ones for a band. Here the gain is -3 dB for butterworth, minus\n"
                 "the ripple for chebyshev and elliptic, minus the attenuation for\n"
-                "inverse-chebyshev, -6 dB for windowed and kaiser. INPUT goes before it")
+                "inverse-chebyshev, -6 dB for windowed and kaiser")
         .values(1, 2)
         .number()
         .placeholder("HZ [HZ]");
@@ -52,13 +52,20 @@ void addFilter(Command& command, FilterChoice& choice)
         .placeholder("DB");
     command
         .option("--taps", choice.taps,
-                "Number of coefficients, for windowed, kaiser, equiripple, multiband,\n"
-                "differentiator and hilbert; odd for highpass and bandstop, even for a\n"
-                "differentiator or hilbert up to half the rate. The delay is half of one less")
+                "Number of coefficients: at most 1048576 for windowed and kaiser; 3 to 4096 for\n"
+                "equiripple, multiband, differentiator and hilbert. Odd for highpass and\n"
+                "bandstop, even for a differentiator or hilbert up to half the rate. The delay\n"
+                "is half of one less")
         .whole();
-    command.option("--window", choice.window, "For windowed").oneOf(namesOf(filterWindows()));
     command
-        .option("--param", choice.parameter, "Of the windows kaiser (beta), dolph-chebyshev (dB) and gaussian (sigma)")
+        .option("--window", choice.window,
+                "For windowed. The gain is not scaled: that of a pass band is below 0 dB when the\n"
+                "taps are few, or many and the window dolph-chebyshev")
+        .oneOf(namesOf(filterWindows()));
+    command
+        .option("--param", choice.parameter,
+                "Of the windows kaiser (beta, 0 unless given), dolph-chebyshev (dB, 60) and\n"
+                "gaussian (sigma, 0.2)")
         .number();
     command.option("--beta", choice.beta, "Shape of the window, for kaiser").number();
     command
@@ -79,8 +86,8 @@ void addFilter(Command& command, FilterChoice& choice)
         .placeholder("FROM:TO[:GAIN[:WEIGHT]]");
     command
         .option("--side", choice.side,
-                "For savitzky-golay: samples on either side of the one that is fitted to; there\n"
-                "is no delay")
+                "For savitzky-golay: samples on either side of the one that is fitted to, at most\n"
+                "5000 with --derivative; there is no delay")
         .within(0, kMostSide);
     command
         .option("--weights", choice.weights,

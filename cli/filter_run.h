@@ -14,10 +14,10 @@ struct Filtered {
     std::optional<double> delay;   // samples; that of an IIR filter is not the same at each frequency
 };
 
-// Throws a Failure when the backend refuses.
+// Throws a Failure when the backend refuses, or makes of finite samples some that are not.
 Filtered runOnce(const ChosenFilter& filter, const Series& series);
 
-// Forwards and backwards.
+// Forwards and backwards; likewise.
 Filtered runBothWays(const ChosenFilter& filter, const Series& series);
 
 // Throws a Failure when one of them has no use of both ways.

@@ -1,5 +1,7 @@
 // FIR designs that are their coefficients: what they are, and how a signal goes through them.
 #pragma once
+#include <span>
+
 #include "QuorDSP_DAQ.h"
 #include "filter_request.h"
 

@@ -1,6 +1,7 @@
 #include "gain_bands.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string_view>
 
 #include "failure.h"
@@ -34,6 +35,9 @@ GainBand parseBand(const std::string& text)
     const std::vector<double> numbers = numbersOf(text);
     if (numbers.size() < 2 || numbers.size() > 4)
         noBand(text);
+    if (numbers.size() > 3 && numbers[3] <= 0)
+        throw Failure(ExitCode::Usage, "--bands: the weight of '" + text + "' is not greater than 0",
+                      "leave out a band whose error does not matter");
     return {.from = numbers[0],
             .to = numbers[1],
             .gain = numbers.size() > 2 ? numbers[2] : 1,
@@ -53,7 +57,8 @@ std::string describe(const std::vector<GainBand>& bands)
 {
     std::string text;
     for (const auto& [from, to, gain, weight] : bands) {
-        text += (text.empty() ? "" : ", ") + rounded(from) + " to " + rounded(to) + " Hz";
+        text += (text.empty() ? "" : ", ") + rounded(from, kFrequencyDigits) + " to " + rounded(to, kFrequencyDigits) +
+                " Hz";
         text += gain != 1 ? " by " + rounded(gain) : "";
         text += weight != 1 ? " with weight " + rounded(weight) : "";
     }

@@ -6,9 +6,9 @@ namespace quordsp::cli {
 namespace {
 
 constexpr std::string_view kUnits[] = {
-    "s",  "ms", "us",  "min",  "h",    "Hz", "kHz", "rpm", "rad", "deg", "degC", "degF", "degR", "K",  "g",  "m",
-    "mm", "um", "m/s", "mm/s", "m/s2", "N",  "kN",  "Nm",  "Pa",  "kPa", "MPa",  "bar",  "V",    "mV", "uV", "A",
-    "mA", "W",  "Ohm", "FS",   "pct",  "%",  "dB",  "dBA", "C",   "pC",  "kg",   "J",    "T",    "mT", "lx",
+    "s", "ms",  "us", "min", "h",  "Hz", "kHz", "rpm", "rad", "deg", "degC", "degF", "degR", "K",  "g",
+    "m", "mm",  "um", "N",   "kN", "Nm", "Pa",  "kPa", "MPa", "bar", "V",    "mV",   "uV",   "A",  "mA",
+    "W", "Ohm", "FS", "pct", "%",  "dB", "dBA", "C",   "pC",  "kg",  "J",    "T",    "mT",   "lx",
 };
 
 struct VoltageUnit {
@@ -18,9 +18,26 @@ struct VoltageUnit {
 
 constexpr VoltageUnit kVoltageUnits[] = {{"V", 1}, {"mV", 1e-3}, {"uV", 1e-6}};
 
+// The power of the second that a unit is divided by: 1 of "m/s", 2 of "m/s2".
+int secondsUnder(std::string_view unit)
+{
+    if (unit.ends_with("/s"))
+        return 1;
+    const bool hasPower =
+        unit.size() > 3 && unit.substr(unit.size() - 3, 2) == "/s" && unit.back() > '1' && unit.back() <= '9';
+    return hasPower ? unit.back() - '0' : 0;
+}
+
+std::string_view withoutSeconds(std::string_view unit)
+{
+    return secondsUnder(unit) == 0 ? unit : unit.substr(0, unit.rfind('/'));
+}
+
+// Also one that perSeconds() makes of such a unit, or of none.
 bool isKnownUnit(std::string_view text)
 {
-    return std::ranges::find(kUnits, text) != std::end(kUnits);
+    const std::string_view base = withoutSeconds(text);
+    return (base == "1" && base != text) || std::ranges::find(kUnits, base) != std::end(kUnits);
 }
 
 std::string trimmed(std::string_view text)
@@ -42,7 +59,7 @@ bool splitBrackets(std::string_view name, Label& label)
     return true;
 }
 
-// "x_g"
+// "x_g", "x_g/s2"
 bool splitUnderscore(std::string_view name, Label& label)
 {
     const auto cut = name.rfind('_');
@@ -50,16 +67,6 @@ bool splitUnderscore(std::string_view name, Label& label)
         return false;
     label = {trimmed(name.substr(0, cut)), std::string(name.substr(cut + 1))};
     return true;
-}
-
-// The power of the second that a unit is divided by: 1 of "m/s", 2 of "m/s2".
-int secondsUnder(std::string_view unit)
-{
-    if (unit.ends_with("/s"))
-        return 1;
-    const bool hasPower =
-        unit.size() > 3 && unit.substr(unit.size() - 3, 2) == "/s" && unit.back() > '1' && unit.back() <= '9';
-    return hasPower ? unit.back() - '0' : 0;
 }
 
 } // namespace
@@ -100,9 +107,8 @@ std::string perSeconds(std::string_view unit, int derivative)
 {
     if (derivative == 0)
         return std::string(unit);
-    const int before = secondsUnder(unit);
-    const int power = before + derivative;
-    std::string base(before == 0 ? unit : unit.substr(0, unit.rfind('/')));
+    const int power = secondsUnder(unit) + derivative;
+    const std::string base(withoutSeconds(unit));
     return (base.empty() ? "1" : base) + "/s" + (power > 1 ? std::to_string(power) : "");
 }
 

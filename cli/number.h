@@ -13,6 +13,9 @@ std::string shortest(double value);
 // At most so many significant digits, without trailing zeros: for people to read.
 std::string rounded(double value, int digits = 6);
 
+// For the frequencies of filters, whose edges may lie close to each other.
+inline constexpr int kFrequencyDigits = 8;
+
 // "1 sample", "2 samples"
 std::string counted(std::size_t count, const std::string& what);
 

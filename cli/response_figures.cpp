@@ -18,10 +18,15 @@ namespace {
 
 const double kHalfPower = -10 * std::log10(2.0); // dB
 constexpr std::size_t kFewestPoints = 4000;      // of a segment
+constexpr double kNearestToEdge = 1e-3;          // of an edge's frequency
+constexpr double kGrowth = 1.05;
+constexpr std::size_t kFewestBandPoints = 100; // of a band of the request
 constexpr std::size_t kPointsPerTap = 8;
 constexpr int kHalvings = 100;
 constexpr double kRippleTolerance = 0.01;      // of the ripple
 constexpr double kAttenuationTolerance = 0.01; // dB
+constexpr double kLowestLevel = -0.5;          // dB, of a pass band
+constexpr double kLevelRounding = 1e-9;        // dB, between neighbours where the gain is flat
 constexpr double kRadiusTolerance = 1e-3;      // of a pole's distance from the circle
 constexpr double kDeviationTolerance = 0.01;   // of the deviation, and
 constexpr double kDeviationFloor = 1e-12;      // of the gain 1
@@ -55,7 +60,8 @@ void add(Segment& segment, double frequency, double gain)
     segment.gains.push_back(gain);
 }
 
-// Points that crowd at both ends, as the extrema of IIR designs do; those of the grid where there are more.
+// Points that crowd at both ends, as the extrema of IIR designs do, and behind a very low edge by its octaves; those of
+// the grid where there are more.
 Segment sample(Role role, double from, double to, const GainGrid& grid, const Gain& gain)
 {
     Segment segment{role, {}, {}};
@@ -64,11 +70,14 @@ Segment sample(Role role, double from, double to, const GainGrid& grid, const Ga
     if (last - first > kFewestPoints)
         for (std::size_t point = first; point < last; ++point)
             add(segment, grid.frequency(point), grid.decibels(point));
-    else
-        for (std::size_t i = 1; i < kFewestPoints; ++i) {
-            const double frequency = crowded(from, to, i, kFewestPoints);
-            add(segment, frequency, gain(frequency));
-        }
+    else {
+        const auto addAt = [&](double frequency) { add(segment, frequency, gain(frequency)); };
+        const double step = crowded(from, to, 1, kFewestPoints) - from;
+        for (double distance = kNearestToEdge * from; std::isnormal(distance) && distance < step; distance *= kGrowth)
+            addAt(from + distance);
+        for (std::size_t i = 1; i < kFewestPoints; ++i)
+            addAt(crowded(from, to, i, kFewestPoints));
+    }
     add(segment, to, gain(to));
     return segment;
 }
@@ -125,7 +134,7 @@ bool isBefore(BandEnd end, const Segment& segment, double reached, std::size_t p
 {
     const double rise = segment.gains[next] - segment.gains[point];
     if (end == BandEnd::Lobe)
-        return segment.role == Role::Pass ? rise > 0 : rise < 0;
+        return segment.role == Role::Pass ? rise > -kLevelRounding : rise < kLevelRounding;
     return end == BandEnd::Reached && segment.gains[point] > reached;
 }
 
@@ -157,11 +166,29 @@ std::optional<BandFigures> measureBands(const std::vector<Segment>& segments, Ro
     for (const Segment& segment : segments)
         if (segment.role == role) {
             const auto [first, last] = bandWithin(segment, end, reached);
+            if (end == BandEnd::Lobe && first == last)
+                continue;
             figures.bands.push_back({rate * segment.frequencies[first], rate * segment.frequencies[last]});
             figures.highest = std::max(figures.highest, greatest(segment, first, last, 1, gain));
             figures.lowest = std::min(figures.lowest, -greatest(segment, first, last, -1, gain));
         }
+    if (figures.bands.empty())
+        return std::nullopt;
     return figures;
+}
+
+double highestOfPass(const std::vector<Segment>& segments, const Gain& gain)
+{
+    double highest = -std::numeric_limits<double>::infinity();
+    for (const Segment& segment : segments)
+        if (segment.role == Role::Pass)
+            highest = std::max(highest, greatest(segment, 0, segment.gains.size() - 1, 1, gain));
+    return highest;
+}
+
+bool isNothing(const Impulse& impulse)
+{
+    return !impulse.taps.empty() && std::ranges::all_of(impulse.taps, [](double tap) { return tap == 0; });
 }
 
 // What gain 1 is at a frequency in Hz. The error of a differentiator's stop band is not by its frequency.
@@ -172,13 +199,14 @@ double unitGain(const ChosenFilter& filter, const GainBand& band, double rate, d
     return 2 * std::numbers::pi * (band.gain != 0 ? frequency : rate);
 }
 
-// Each tap makes a lobe at the most.
-std::size_t pointsFor(const TransferFunction& function)
+// From 0 to half the sampling rate each tap makes a lobe at the most.
+std::size_t pointsFor(const TransferFunction& function, const GainBand& band, double rate)
 {
-    return std::max(kFewestPoints, kPointsPerTap * function.impulse.taps.size());
+    const auto all = static_cast<double>(std::max(kFewestPoints, kPointsPerTap * function.impulse.taps.size()));
+    return std::max(kFewestBandPoints, static_cast<std::size_t>(all * 2 * (band.to - band.from) / rate));
 }
 
-std::vector<BandDeviation> measureDeviations(const ChosenFilter& filter, double rate, std::size_t points,
+std::vector<BandDeviation> measureDeviations(const ChosenFilter& filter, double rate, const TransferFunction& function,
                                              const Gain& gain)
 {
     std::vector<BandDeviation> deviations;
@@ -187,14 +215,15 @@ std::vector<BandDeviation> measureDeviations(const ChosenFilter& filter, double 
             const double unit = unitGain(filter, band, rate, frequency * rate);
             return unit > 0 ? std::abs(std::pow(10, gain(frequency) / 20) / unit - std::abs(band.gain)) : 0;
         };
-        deviations.push_back({band, greatestBetween(band.from / rate, band.to / rate, points, deviation)});
+        deviations.push_back(
+            {band, greatestBetween(band.from / rate, band.to / rate, pointsFor(function, band, rate), deviation)});
     }
     return deviations;
 }
 
 std::string decibels(double value)
 {
-    return rounded(value) + " dB";
+    return rounded(value + 0.0) + " dB"; // 0.0 takes the sign of 0
 }
 
 void doubtPoles(const Poles& poles, std::vector<std::string>& doubts)
@@ -216,7 +245,7 @@ void doubtEdges(const ChosenFilter& filter, const ResponseFigures& figures, std:
     const double tolerance = std::min(kRippleTolerance * wanted, kAttenuationTolerance);
     for (std::size_t i = 0; i < figures.edgeGains.size(); ++i)
         if (!(std::abs(figures.edgeGains[i] + wanted) <= tolerance))
-            doubts.push_back("the gain at " + rounded(filter.request.edges[i]) + " Hz is " +
+            doubts.push_back("the gain at " + rounded(filter.request.edges[i], kFrequencyDigits) + " Hz is " +
                              decibels(figures.edgeGains[i]) + " instead of " + decibels(-wanted));
 }
 
@@ -233,12 +262,22 @@ void doubtBands(const ChosenFilter& filter, const ResponseFigures& figures, std:
                          decibels(request.attenuation));
 }
 
+// The library scales no window.
+void doubtLevel(const ResponseFigures& figures, std::vector<std::string>& doubts)
+{
+    if (figures.isNothing)
+        doubts.emplace_back("all coefficients are 0");
+    else if (figures.level && !(*figures.level >= kLowestLevel))
+        doubts.push_back("the gain of the pass band is at most " + decibels(*figures.level));
+}
+
 void doubtDeviations(const ResponseFigures& figures, std::vector<std::string>& doubts)
 {
     for (const auto& [band, deviation] : figures.deviations)
         if (!(deviation * band.weight <= figures.ripple * (1 + kDeviationTolerance) + kDeviationFloor * band.weight))
-            doubts.push_back("the weighted deviation from " + rounded(band.from) + " to " + rounded(band.to) +
-                             " Hz is " + rounded(deviation * band.weight) + " instead of " + rounded(figures.ripple));
+            doubts.push_back("the weighted deviation from " + rounded(band.from, kFrequencyDigits) + " to " +
+                             rounded(band.to, kFrequencyDigits) + " Hz is " + rounded(deviation * band.weight) +
+                             " instead of " + rounded(figures.ripple));
 }
 
 } // namespace
@@ -254,9 +293,14 @@ ResponseFigures measureResponse(const ChosenFilter& filter, double rate, const T
         figures.edgeGains.push_back(segments[i].gains.back());
     figures.halfPower = halfPowerPoints(segments, rate, gain);
     const double reached = -filter.request.attenuation;
-    figures.pass = measureBands(segments, Role::Pass, filter.family.passEnd, reached, rate, gain);
-    figures.stop = measureBands(segments, Role::Stop, filter.family.stopEnd, reached, rate, gain);
-    figures.deviations = measureDeviations(filter, rate, pointsFor(function), gain);
+    figures.isNothing = isNothing(function.impulse);
+    if (!figures.isNothing) {
+        figures.pass = measureBands(segments, Role::Pass, filter.family.passEnd, reached, rate, gain);
+        figures.stop = measureBands(segments, Role::Stop, filter.family.stopEnd, reached, rate, gain);
+    }
+    if (filter.family.passEnd == BandEnd::Lobe)
+        figures.level = highestOfPass(segments, gain);
+    figures.deviations = measureDeviations(filter, rate, function, gain);
     figures.ripple = function.impulse.ripple;
     figures.poles = polesOf(function);
     return figures;
@@ -268,6 +312,7 @@ std::vector<std::string> doubtsAbout(const ChosenFilter& filter, const ResponseF
     doubtPoles(figures.poles, doubts);
     doubtEdges(filter, figures, doubts);
     doubtBands(filter, figures, doubts);
+    doubtLevel(figures, doubts);
     doubtDeviations(figures, doubts);
     return doubts;
 }

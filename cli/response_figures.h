@@ -27,9 +27,11 @@ struct BandDeviation {
 };
 
 struct ResponseFigures {
-    std::vector<double> edgeGains; // dB, at each frequency of the request
-    std::vector<double> halfPower; // Hz, where the gain goes through -3.01 dB
-    std::optional<BandFigures> pass;
+    std::vector<double> edgeGains;   // dB, at each frequency of the request
+    std::vector<double> halfPower;   // Hz, where the gain goes through -3.01 dB
+    std::optional<double> level;     // dB, the highest gain in the pass band of a window design, which is not scaled
+    bool isNothing = false;          // all coefficients of a FIR filter are 0
+    std::optional<BandFigures> pass; // none where the gain comes to no extremum that would begin it
     std::optional<BandFigures> stop;
     std::vector<BandDeviation> deviations;
     double ripple = 0; // largest weighted deviation, by the design; 0: it tells none

@@ -44,7 +44,8 @@ std::string bandsText(const BandFigures& figures)
 {
     std::string text;
     for (const auto& [from, to] : figures.bands)
-        text += (text.empty() ? "" : " and ") + rounded(from) + " to " + rounded(to) + " Hz";
+        text += (text.empty() ? "" : " and ") + rounded(from, kFrequencyDigits) + " to " +
+                rounded(to, kFrequencyDigits) + " Hz";
     return text;
 }
 
@@ -52,16 +53,16 @@ std::string halfPowerText(const std::vector<double>& points)
 {
     std::string text;
     for (std::size_t i = 0; i < std::min(points.size(), kMostHalfPower); ++i)
-        text += (i == 0 ? "" : ", ") + rounded(points[i], 8) + " Hz";
+        text += (i == 0 ? "" : ", ") + rounded(points[i], kFrequencyDigits) + " Hz";
     if (points.size() > kMostHalfPower)
         text += " and " + std::to_string(points.size() - kMostHalfPower) + " more";
     return text.empty() ? "none" : text;
 }
 
-// Without the digits that are rounding.
+// Without the digits that are rounding, and the sign of 0.
 std::string decibels(double value)
 {
-    return rounded(std::round(value * 1e9) / 1e9) + " dB";
+    return rounded(std::round(value * 1e9) / 1e9 + 0.0) + " dB";
 }
 
 // "within 0.01 of 1", "within 1e-05 of 0.5 times 2 pi f"
@@ -76,7 +77,8 @@ std::string deviationText(const BandDeviation& deviation, bool isDerivative)
 void printDeviations(const ResponseFigures& figures, const FilterRequest& request)
 {
     for (const BandDeviation& deviation : figures.deviations)
-        std::cout << "gain from " << rounded(deviation.band.from) << " to " << rounded(deviation.band.to)
+        std::cout << "gain from " << rounded(deviation.band.from, kFrequencyDigits) << " to "
+                  << rounded(deviation.band.to, kFrequencyDigits)
                   << " Hz: " << deviationText(deviation, request.derivative > 0) << '\n';
     if (figures.ripple > 0)
         std::cout << "ripple reached, by the design: " << rounded(figures.ripple)
@@ -86,8 +88,9 @@ void printDeviations(const ResponseFigures& figures, const FilterRequest& reques
 void printFigures(const ResponseFigures& figures, const FilterRequest& request)
 {
     for (std::size_t i = 0; i < figures.edgeGains.size(); ++i)
-        std::cout << "gain at " << rounded(request.edges[i]) << " Hz: " << decibels(figures.edgeGains[i]) << '\n';
-    if (request.derivative == 0)
+        std::cout << "gain at " << rounded(request.edges[i], kFrequencyDigits)
+                  << " Hz: " << decibels(figures.edgeGains[i]) << '\n';
+    if (request.derivative == 0 && request.bands.empty())
         std::cout << "-3.01 dB at: " << halfPowerText(figures.halfPower) << '\n';
     printDeviations(figures, request);
     if (figures.pass)

@@ -74,13 +74,13 @@ Cascade cascadeOf(const Design& design, const FilterRequest& request)
     return {status, status < 0 ? std::vector<Section>{} : sectionsOf(*record)};
 }
 
-// A refused band design by its low-pass; none when there is no such thing.
+// A refused design by its low-pass; none when there is no such thing.
 std::optional<TransferFunction> mapped(const Design& design, AnalysisLibErrType refusal)
 {
     FilterRequest lowpass = design.request;
-    if (lowpass.type < 2)
-        return std::nullopt;
-    const BandMap map(lowpass.edges[0] / lowpass.rate, lowpass.edges[1] / lowpass.rate, lowpass.type == 3);
+    const bool isBand = lowpass.type >= 2;
+    const double lower = isBand ? lowpass.edges[0] / lowpass.rate : 0;
+    const BandMap map(lower, lowpass.edges[isBand ? 1 : 0] / lowpass.rate, lowpass.type % 2 == 1);
     lowpass.type = 0;
     lowpass.edges[0] = lowpass.rate / 4;
     const Cascade cascade = cascadeOf(design, lowpass);

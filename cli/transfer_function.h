@@ -26,7 +26,7 @@ struct TransferFunction {
 };
 
 // The design at a sampling rate, by the backend: the taps of a FIR filter; the sections of an IIR filter, or the
-// direct form when that is preferred or the backend has no sections. A band design whose sections it refuses, although
+// direct form when that is preferred or the backend has no sections. A design whose sections it refuses, although
 // it filters with it, comes as the sections of its low-pass and a map. Throws a Failure when the backend refuses the
 // design.
 TransferFunction designFilter(const ChosenFilter& filter, double rate, bool preferDirect);

@@ -10,6 +10,9 @@ isNamed() { printf '%s\n' "$words" | grep -qx "$1"; }
 exportOf() { sed -nE "s/^ENTRY\(([A-Za-z_0-9]+), *$1,.*/QuorDSP_\1/p" src/frame/entries.def; }
 
 status=0
+for list in tests/abi/backend_exports.txt tests/abi/library_exports.txt src/frame/entries.def; do
+    [ -s "$list" ] || { echo "fuzz: $list is missing or empty" && status=1; }
+done
 for name in $(cat tests/abi/backend_exports.txt); do
     isNamed "$name" || isNamed "$(exportOf "$name")" || { echo "fuzz: nothing calls $name" && status=1; }
 done

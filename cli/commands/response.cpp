@@ -80,6 +80,15 @@ void requireRange(const Options& options)
                       "half the rate is " + rounded(options.rate / 2) + " Hz");
 }
 
+void requireIirForDirect(const std::vector<ChosenFilter>& filters)
+{
+    for (const ChosenFilter& filter : filters)
+        if (filter.family.direct)
+            return;
+    throw Failure(ExitCode::Usage, "--form direct is not for " + std::string(filters.front().family.name),
+                  "a FIR filter has one form, its coefficients");
+}
+
 Curves curvesOf(const FrequencyResponse& response, const Options& options)
 {
     const Progress progress("evaluating the response");
@@ -156,6 +165,8 @@ void run(const Options& options)
         throw Failure(ExitCode::Usage, "the CSV and the plot must be different files", "give each a name of its own");
     requireRange(options);
     const std::vector<ChosenFilter> filters = chosenFilters(options.filter);
+    if (options.form == "direct")
+        requireIirForDirect(filters);
     std::vector<Response> responses;
     responses.reserve(filters.size());
     for (const ChosenFilter& filter : filters)
@@ -185,7 +196,7 @@ void response(Command& command)
     command
         .option("--form", options->form,
                 "Of an IIR filter: the sections of its cascade coefficients, which round more than those\n"
-                "that filter works with; or the direct form. A band too sharp for such sections is\n"
+                "that filter works with; or the direct form. A design too sharp for such sections is\n"
                 "shown as the design, by its low-pass")
         .oneOf({"cascade", "direct"})
         .showDefault();

@@ -36,21 +36,26 @@ TEST(BandMap, MakesTheBandFilterOutOfItsLowPass)
     }
 }
 
-TEST(BandMap, CountsTheTurnsOfThePhaseAsTheBackendsSectionsDo)
+TEST(BandMap, HasPhaseDelayAndPolesOfTheBackendsSections)
 {
     for (int order = 1; order <= 8; ++order)
-        for (const int type : {2, 3}) {
+        for (const int type : {0, 1, 2, 3}) {
             FilterRequest request{.type = type, .edges = {100, 300}, .order = order};
             const ChosenFilter band{filterFamily("butterworth"), request, "", ""};
             request.type = 0;
             request.edges[0] = 250;
             const ChosenFilter lowpass{filterFamily("butterworth"), request, "", ""};
             TransferFunction function = designFilter(lowpass, 1000, false);
-            function.map = BandMap(0.1, 0.3, type == 3);
+            function.map = type < 2 ? BandMap(0, 0.1, type == 1) : BandMap(0.1, 0.3, type == 3);
             const FrequencyResponse mapped(function);
             const FrequencyResponse wanted(designFilter(band, 1000, false));
             for (const double frequency : {0.05, 0.15, 0.19, 0.25, 0.45})
                 EXPECT_NEAR(mapped.at(frequency).phase, wanted.at(frequency).phase, 1e-9) << order << ' ' << type;
+            EXPECT_NEAR(mapped.at(0).delay, wanted.at(0).delay, 1e-9) << order << ' ' << type;
+            if (order > 1) // else the low-pass's one pole lies at 0, like the padding of its section
+                EXPECT_NEAR(polesOf(function).greatestRadius, polesOf(designFilter(band, 1000, false)).greatestRadius,
+                            1e-12)
+                    << order << ' ' << type;
         }
 }
 

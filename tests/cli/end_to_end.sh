@@ -220,6 +220,7 @@ for response in "lowpass --cutoff 300 --edges 300 500" "highpass --cutoff 300 --
     run 0 filter "$bell" --family $families $values --response $response -o f.csv
     run 0 response --rate 5000 --family $families $values --response $response -o r.csv
     [ ! -s ../stderr ] || fail "$what: a warning"
+    ! grep -qF -- ' -0 dB' ../stdout || fail "$what: zero with a sign"
 done
 run 1 $filter_x --family elliptic --order 4 --ripple 1 --response lowpass --cutoff 300 -o g.csv
 complains "elliptic needs --attenuation"
@@ -264,6 +265,10 @@ run 0 $filter_x --imaginary y_g $bandpass -o c.csv --plot c.svg
     fail "$what: the names of the columns"
 run 1 $filter_x --family hilbert --taps 31 --bands 50 -o g.csv
 complains "--bands: '50' is not a band"
+run 1 $filter_x --family hilbert --taps 31 --bands 50:60,,70:80 -o g.csv
+complains "--bands: an item of '50:60,,70:80' is empty"
+run 1 $filter_x --family=butterworth, --response lowpass --order 2 --cutoff 9 -o g.csv
+complains "--family: an item of 'butterworth,' is empty"
 run 1 $filter_x --family savitzky-golay --order 3 --side 20000 -o g.csv
 complains "less than the frame of 40001"
 only_left "c.csv c.svg f.csv f.svg r.csv r.svg"
@@ -281,6 +286,8 @@ awk -F, 'NR > 15001 && NR < 35001 { d = $3 - $2; if (d * d > 0.49) ++far } END {
     fail "$what: the filtered signal is not where the input is"
 run 1 $filter_x --family kaiser --taps 101 --beta 5 --response lowpass --cutoff 250 --zero-phase -o g.csv
 complains "--zero-phase is not for kaiser"
+run 1 $filter_x --family savitzky-golay --order 3 --side 7 --zero-phase -o g.csv
+complains "it has no delay"
 only_left "f.csv f.svg z.csv"
 
 # The response of a design. Bessel of order 4: 7.58 dB at the cut-off, as the header has it.
@@ -304,6 +311,23 @@ head -n 1 r.csv | grep -q '^frequency_Hz,elliptic_magnitude_dB,.*,elliptic_group
     fail "$what: the names of the columns"
 [ "$(cut -d, -f1 r.csv | tr '\n' ' ')" = "frequency_Hz 50 60 70 80 90 100 110 120 130 140 150 " ] ||
     fail "$what: the frequencies"
+run 0 response --rate 1000 --family windowed --window hanning --taps 2 --response lowpass --cutoff 100 -o r.csv
+complains "all coefficients are 0"
+! grep -qE 'nan|pass-band|stop-band' ../stdout || fail "$what: figures of bands that there are not"
+run 0 response --rate 1000 --family windowed --window hanning --taps 51 --response lowpass --cutoff 1 -o r.csv
+complains "the gain of the pass band is at most -26.02"
+! grep -qF pass-band ../stdout || fail "$what: a ripple of a gain that falls from 0 Hz on"
+# The ends of this window are its largest values.
+run 0 response --rate 1000 --family windowed --window dolph-chebyshev --param 40 --taps 1001 --response lowpass \
+    --cutoff 100 -o r.csv
+complains "the gain of the pass band is at most -9."
+run 0 response --rate 1000 --family hilbert --taps 31 --bands 50:450 -o r.csv
+! grep -qF -- '-3.01 dB' ../stdout || fail "$what: half-power points of a band of the request"
+run 0 response --rate 1000 --order 2 --response bandpass --cutoff 100 100.0001 -o r.csv
+says "bandpass 100 to 100.0001 Hz"
+says "gain at 100.0001 Hz: -3.0103 dB"
+run 1 response --rate 1000 --family kaiser --beta 5 --taps 31 --response lowpass --cutoff 100 --form direct -o g.csv
+complains "--form direct is not for kaiser"
 # Direct coefficients cannot hold a narrow band of high order; the sections do.
 run 0 response --rate 5000 --order 8 --response bandpass --cutoff 90 110 -o r.csv
 [ ! -s ../stderr ] || fail "$what: a warning"
@@ -317,6 +341,12 @@ says "-3.01 dB at: 99.999 Hz, 100.001 Hz"
 says "2.45e-07 from the unit circle"
 complains "warning: the backend gives no sections of butterworth: "
 complains "(status -20031)"
+run 0 response --rate 1000 --order 8 --response lowpass --cutoff 1e-8 -o r.csv
+says "-3.01 dB at: 1e-08 Hz"
+run 0 response --rate 1000 --family elliptic --order 7 --ripple 1 --attenuation 60 --response lowpass --cutoff 1e-8 \
+    -o r.csv
+says "pass-band ripple: 1 dB, from -1 dB to 0 dB, 0 to 1e-08 Hz"
+says "stop-band attenuation: 60 dB, "
 run 1 response --rate 5000 --order 8 --response lowpass --cutoff 90 --from 100 --to 90 -o g.csv
 complains "half the rate is 2500 Hz"
 run 1 response --order 8 --response lowpass --cutoff 90 -o g.csv
@@ -570,7 +600,9 @@ says "strongest line: none, the signal is constant"
 grep -qF '>power ((m/s2)^2)<' p.svg || fail "$what: the unit of the axis"
 # A plot at the ends of the range of numbers.
 printf 'x\n1.7e308\n-1.7e308\n1e308\n' >wide.csv
-run 0 filter wide.csv --rate 1 --response lowpass --order 2 --cutoff 0.2 -o w.csv --plot w.svg
+run 0 filter wide.csv --rate 1 --family savitzky-golay --order 0 --side 1 -o w.csv --plot w.svg
+run 4 filter wide.csv --rate 1 --response lowpass --order 2 --cutoff 0.2 -o g.csv
+complains "the result at 1 s, sample 2, is not finite"
 printf 'x\n5e-324\n5e-324\n' >tiny.csv
 run 0 filter tiny.csv --rate 1 --response lowpass --order 2 --cutoff 0.2 -o w.csv --plot w.svg
 run 0 filter constant.csv --rate 1e-308 --response lowpass --order 2 --cutoff 2e-309 -o w.csv --plot w.svg

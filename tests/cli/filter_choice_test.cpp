@@ -118,6 +118,8 @@ TEST(FilterChoice, DescribesTheBand)
     EXPECT_EQ(filters[1].describe(), "bandpass 80/90 to 110/120 Hz, equiripple with 31 taps");
     EXPECT_EQ(describeBand(filters), "bandpass");
     EXPECT_EQ(describeBand({filters[0]}), "bandpass 90 to 110 Hz");
+    choice.cutoff = {100, 100.0001};
+    EXPECT_EQ(chosenFilters(choice)[0].band, "bandpass 100 to 100.0001 Hz");
 }
 
 TEST(FilterChoice, TakesAResponseForFamiliesThatHaveIt)

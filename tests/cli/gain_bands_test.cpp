@@ -20,6 +20,18 @@ TEST(GainBands, HaveGainAndWeightOneUnlessTheyAreGiven)
     EXPECT_EQ(describe(bands), "0 to 100 Hz, 150 to 200 Hz by 0.5, 300 to 400 Hz by -1 with weight 10");
 }
 
+TEST(GainBands, HaveWeightsAboveZero)
+{
+    for (const char* const text : {"0:100:1:0", "0:100:1:-2"})
+        EXPECT_EQ(messageOf([&] { parseGainBands({text}); }),
+                  "--bands: the weight of '" + std::string(text) + "' is not greater than 0");
+}
+
+TEST(GainBands, AreToldApartWhenTheyAreClose)
+{
+    EXPECT_EQ(describe(parseGainBands({"0:100", "100.0001:200"})), "0 to 100 Hz, 100.0001 to 200 Hz");
+}
+
 TEST(GainBands, QuoteWhatIsNone)
 {
     for (const char* const text : {"", "1", "1:", ":1", "1:2:3:4:5", "1:x", "1;2", "1:2:inf", "1:2:"})

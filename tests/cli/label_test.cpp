@@ -21,6 +21,8 @@ TEST(Label, TakesQuantityAndUnitFromTheColumnName)
         {"emf [mV]", "emf", "mV"},
         {"flow (l/min)", "flow", "l/min"},
         {"sensor_left", "sensor_left", ""},
+        {"sensor_left/s", "sensor_left/s", ""},
+        {"sensor_1", "sensor_1", ""},
         {"_g", "_g", ""},
         {"g", "g", ""},
         {"(N)", "(N)", ""},
@@ -74,6 +76,18 @@ TEST(Label, DividesAUnitBySeconds)
     EXPECT_EQ(perSeconds("m/s2", 3), "m/s5");
     EXPECT_EQ(perSeconds("", 1), "1/s");
     EXPECT_EQ(perSeconds("m/sx", 1), "m/sx/s");
+}
+
+TEST(Label, ReadsTheUnitsOfDerivativesBack)
+{
+    for (const char* const unit : {"", "mV", "m/s", "m/s2", "%"})
+        for (int derivative = 1; derivative <= 5; ++derivative) {
+            const std::string written = perSeconds(unit, derivative);
+            const Label label = parseLabel(columnName("filtered", written));
+            EXPECT_EQ(label.quantity, "filtered");
+            EXPECT_EQ(label.unit, written);
+            EXPECT_EQ(perSeconds(label.unit, 2), perSeconds(unit, derivative + 2));
+        }
 }
 
 TEST(Label, ShowsNoControlCharacters)

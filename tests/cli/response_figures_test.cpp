@@ -78,7 +78,8 @@ TEST(ResponseFigures, OfAWindowedFilterHaveItsHighestSideLobe)
     ASSERT_TRUE(figures.stop);
     EXPECT_NEAR(figures.stop->bands[0].from, 200, 0.2);
     EXPECT_NEAR(figures.stop->highest, 20 * std::log10(0.25), 1e-9);
-    EXPECT_EQ(figures.pass->lowest, figures.pass->highest);
+    EXPECT_FALSE(figures.pass); // the gain falls from 0 Hz on: no ripple
+    EXPECT_THAT(doubtsAbout(filter, figures), IsEmpty());
     EXPECT_EQ(figures.halfPower.size(), 1);
 }
 
@@ -142,6 +143,25 @@ TEST(ResponseFigures, DoubtWhatIsNotAsItWasAskedFor)
     EXPECT_THAT(doubtsAbout(inverse, figuresOf(inverse, kInverse)),
                 ElementsAre(HasSubstr("the gain at 100 Hz is -40 dB"),
                             "the attenuation of the stop band is 40 dB instead of 41 dB"));
+}
+
+// By hand: {1/5, 1/5, 1/5} has the gain 3/5 at 0 Hz, which falls from there on.
+TEST(ResponseFigures, DoubtAPassBandBelowZeroDecibels)
+{
+    const ChosenFilter filter = filterOf("windowed", {.edges = {100}, .taps = 3});
+    EXPECT_THAT(doubtsAbout(filter, figuresOf(filter, {{{0.2, 0.2, 0.2}, {1}}})),
+                ElementsAre("the gain of the pass band is at most -4.43697 dB"));
+    EXPECT_THAT(doubtsAbout(filter, figuresOf(filter, {{{0.32, 0.32, 0.32}, {1}}})), IsEmpty()); // -0.35 dB
+}
+
+TEST(ResponseFigures, OfNothingButZerosHaveNoBands)
+{
+    const ChosenFilter filter = filterOf("windowed", {.edges = {100}, .taps = 2});
+    const TransferFunction nothing{Form::Taps, {{{0, 0}, {1}}}, {.taps = {0, 0}}};
+    const ResponseFigures figures = measureResponse(filter, kRate, nothing, FrequencyResponse(nothing));
+    EXPECT_FALSE(figures.pass);
+    EXPECT_FALSE(figures.stop);
+    EXPECT_THAT(doubtsAbout(filter, figures), ElementsAre("all coefficients are 0"));
 }
 
 TEST(ResponseFigures, DoubtPolesTooNearTheCircle)

@@ -17,6 +17,7 @@ AnalysisLibErrType status(int value)
 TEST(Status, IsToldInWordsWithItsNumber)
 {
     EXPECT_EQ(statusText(-20021), "the order must be greater than zero (status -20021)");
+    EXPECT_THAT(statusText(-20061), HasSubstr("a selection or parameter is out of its range"));
     EXPECT_EQ(statusText(-5093), "the analysis backend could not be found or loaded (status -5093)");
 }
 

@@ -1,6 +1,7 @@
 #include "transfer_function.h"
 
 #include <cmath>
+#include <numbers>
 
 #include <gmock/gmock.h>
 
@@ -36,6 +37,22 @@ TEST(TransferFunction, OfABandTooSharpForSectionsIsThatOfTheDesignByItsLowPass)
             EXPECT_NEAR(response.decibels(cutoff / 5000), -10 * std::log10(2.0), 1e-8) << type;
         EXPECT_NEAR(response.decibels((type == 2 ? 100.0 : 90.0) / 5000), 0, 1e-9) << type;
         EXPECT_LT(response.decibels((type == 2 ? 90.0 : 100.0001) / 5000), -100) << type;
+    }
+}
+
+// Likewise; for so low a cut-off the pole nearest to the circle is 2 pi share sin(pi/16) from it.
+TEST(TransferFunction, OfACutOffTooLowForSectionsIsThatOfTheDesignByItsLowPass)
+{
+    constexpr double kShare = 1e-11;
+    for (const int type : {0, 1}) {
+        const TransferFunction function = designFilter(butterworth(type, 5000 * kShare, 0), 5000, false);
+        EXPECT_EQ(function.form, Form::Mapped);
+        const FrequencyResponse response(function);
+        EXPECT_NEAR(response.decibels(kShare), -10 * std::log10(2.0), 1e-8) << type;
+        EXPECT_NEAR(response.decibels(type == 0 ? 0 : 0.5), 0, 1e-9) << type;
+        EXPECT_NEAR(response.decibels(kShare * (type == 0 ? 10 : 0.1)), -160, 1e-6) << type;
+        const double distance = 2 * std::numbers::pi * kShare * std::sin(std::numbers::pi / 16);
+        EXPECT_NEAR(1 - polesOf(function).greatestRadius, distance, 1e-15) << type;
     }
 }
 
