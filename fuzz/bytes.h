@@ -1,10 +1,12 @@
 // The input of a fuzz target, read as arguments; and what a target demands of the results.
 #pragma once
+#include <algorithm>
 #include <bit>
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <initializer_list>
 #include <limits>
 #include <source_location>
 #include <span>
@@ -98,6 +100,9 @@ private:
     std::span<const std::uint8_t> bytes_;
 };
 
+// What stands in results before a call.
+inline constexpr double kBefore = -7;
+
 // Stops the program where a result is not what it must be.
 inline void require(bool condition, const char* what, std::source_location where = std::source_location::current())
 {
@@ -105,6 +110,12 @@ inline void require(bool condition, const char* what, std::source_location where
         return;
     std::fprintf(stderr, "%s:%u: not so: %s\n", where.file_name(), static_cast<unsigned>(where.line()), what);
     std::abort();
+}
+
+inline void requireOneOf(std::initializer_list<int> documented, int status,
+                         std::source_location where = std::source_location::current())
+{
+    require(std::ranges::find(documented, status) != documented.end(), "a documented status", where);
 }
 
 // The same bits, or both NaN.

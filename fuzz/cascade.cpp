@@ -9,7 +9,6 @@ namespace {
 
 using namespace backend;
 
-constexpr double kBefore = -7;
 constexpr int kBadRecord = -20066;
 
 struct FreeFilter {

@@ -6,8 +6,6 @@ namespace {
 
 using namespace backend;
 
-constexpr double kBefore = -7;
-
 struct Result {
     int status;
     Samples h;

@@ -7,8 +7,6 @@
 namespace quordsp::fuzz {
 namespace {
 
-constexpr double kBefore = -7;
-
 struct Coefficients {
     int status;
     Samples a, b;

@@ -5,8 +5,6 @@
 namespace quordsp::fuzz {
 namespace {
 
-constexpr double kBefore = -7;
-
 Samples oneAfterTheOther(const Signal& signal)
 {
     Samples all = signal.re;

@@ -10,7 +10,6 @@ namespace {
 
 using namespace backend;
 
-constexpr double kBefore = -7;
 constexpr std::int64_t kHuge = std::numeric_limits<std::int64_t>::max();
 
 struct FreeTable {
