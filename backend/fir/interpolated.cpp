@@ -9,7 +9,7 @@ namespace {
 
 constexpr int kMostRaises = 20;
 constexpr int kTestsPerTap = 8;
-constexpr std::size_t kMostImages = 16;
+constexpr std::size_t kMostSuppressorBands = 16;
 constexpr Real kLeastSteepness = 0.5L;
 
 // Kaiser's estimate of taps - 1, times the width of the transition band.
@@ -71,7 +71,7 @@ std::vector<double> imageSuppressor(Real pass, Real stop, Real interpolation, co
     std::vector<ApproximationBand> bands{passing(pass, allowed)};
     for (Real image = 1; image <= interpolation / 2; ++image)
         bands.push_back(stopping(image / interpolation - stop, image / interpolation + stop, allowed));
-    if (bands.size() <= kMostImages) {
+    if (bands.size() <= kMostSuppressorBands) {
         std::vector<double> h = fitted(bands, allowed, effort);
         if (isWithin(1 + allowed.pass, h, stop))
             return h;

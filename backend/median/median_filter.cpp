@@ -103,7 +103,7 @@ void filter(const double* x, std::size_t n, const Window& window, double* y)
 }
 
 // For windows of more than twice the signal: more than half of each is zeros, and it reaches back to the first sample.
-void clear(const double* x, std::size_t n, const Window& window, double* y)
+void filterAmongZeros(const double* x, std::size_t n, const Window& window, double* y)
 {
     const double* const firstNaN = std::find_if(x, x + n, [](double value) { return value != value; });
     const auto place = static_cast<std::size_t>(firstNaN - x);
@@ -122,7 +122,7 @@ void medianFilter(const double* x, std::int64_t n, std::int64_t leftRank, std::i
     require(leftRank >= 0 && right < n, Status::Rank);
     const auto count = static_cast<std::size_t>(n);
     const Window window{static_cast<std::size_t>(leftRank), static_cast<std::size_t>(right)};
-    (window.length() > 2 * count ? clear : filter)(x, count, window, y);
+    (window.length() > 2 * count ? filterAmongZeros : filter)(x, count, window, y);
 }
 
 } // namespace quordsp::backend
